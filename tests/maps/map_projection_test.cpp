@@ -1,0 +1,127 @@
+#include "maps/map_projection.h"
+
+#include <gtest/gtest.h>
+
+#include "common/error.h"
+#include "maps/map_catalogue.h"
+
+namespace tarvex {
+namespace {
+
+MapProjection LoadedMap(int mapIndex, double width = 8000, double height = 6000) {
+    MapProjection projection;
+    projection.SetMap(mapIndex, width, height);
+    return projection;
+}
+
+TEST(MapProjectionTest, WorkedExampleOnMap5) {
+    MapProjection projection = LoadedMap(5);
+    float x = 0;
+    float y = 0;
+    projection.ProjectPoint("N50 00.00", "W01 30.00", x, y);
+    EXPECT_NEAR(projection.LatPerUnit, 0.00095278, 5e-9);
+    EXPECT_NEAR(projection.EdgeSlope, -0.10496, 5e-6);
+    EXPECT_NEAR(projection.RightLonAtLat, -4.48338, 5e-6);
+    EXPECT_NEAR(projection.LeftLonAtLat, 4.28338, 5e-6);
+    EXPECT_NEAR(projection.LonPerUnit, 0.00109585, 5e-9);
+    EXPECT_EQ(x, 2539.0f);
+    EXPECT_EQ(y, 3166.0f);
+    EXPECT_EQ(projection.CurLat, 50.0f);
+    EXPECT_EQ(projection.CurLon, -1.5f);
+}
+
+TEST(MapProjectionTest, SetMapKeepsConstantsForAnIndexOutsideTheCatalogue) {
+    MapProjection projection = LoadedMap(2);
+    for (int index : {-1, 8}) {
+        projection.SetMap(index, 4000.5, 3001.5);  // halves round to the even neighbour
+        EXPECT_EQ(projection.MapTopLat, kMapCatalogue[2].MapTopLat);
+        EXPECT_EQ(projection.MapRightBottomLon, kMapCatalogue[2].MapRightBottomLon);
+        EXPECT_EQ(projection.MapWidth, 4000);
+        EXPECT_EQ(projection.MapHeight, 3002);
+        EXPECT_EQ(projection.LatPerUnit,
+                  (kMapCatalogue[2].MapTopLat - kMapCatalogue[2].MapBottomLat) / int16_t{3002});
+    }
+}
+
+TEST(MapProjectionTest, SurfaceBeyondSixteenBitsIsOverflowAfterTheConstants) {
+    MapProjection projection = LoadedMap(0);
+    try {
+        projection.SetMap(4, 40000, 6000);
+        FAIL() << "no error raised";
+    } catch (const AppError& error) {
+        EXPECT_EQ(error.Number(), kErrOverflow);
+    }
+    EXPECT_EQ(projection.MapTopLat, kMapCatalogue[4].MapTopLat);
+    EXPECT_EQ(projection.MapWidth, 8000);
+}
+
+TEST(MapProjectionTest, LongitudeLetterDecidesTheSide) {
+    struct Case {
+        const char* lonText;
+        float curLon;
+    };
+    const Case cases[] = {
+        {"E01 30.00", 1.5f},  {"e01 30.00", 1.5f},  {"W01 30.00", -1.5f},
+        {"w01 30.00", -1.5f}, {"X01 30.00e", 1.5f}, {"W01 30.00 E", 1.5f},
+        {"", 0.0f},           {"garbage", 0.0f},    {"W1 30.0000", -1.0f},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.lonText);
+        MapProjection projection = LoadedMap(5);
+        float x = 0;
+        float y = 0;
+        projection.ProjectPoint("N50 00.00", c.lonText, x, y);
+        EXPECT_EQ(projection.CurLon, c.curLon);
+        float expectedX = 0;
+        float expectedY = 0;
+        projection.DegreesToMap(50, c.curLon, expectedX, expectedY);
+        EXPECT_EQ(x, expectedX);
+        EXPECT_EQ(y, expectedY);
+    }
+}
+
+TEST(MapProjectionTest, GreenwichIsTheSameFromEitherSide) {
+    for (int index = 0; index < kMapCount; ++index) {
+        SCOPED_TRACE(index);
+        MapProjection projection = LoadedMap(index);
+        float eastX = 0;
+        float westX = 0;
+        float y = 0;
+        projection.ProjectPoint("N49 30.00", "E00 00.00", eastX, y);
+        projection.ProjectPoint("N49 30.00", "W00 00.00", westX, y);
+        EXPECT_EQ(eastX, westX);
+    }
+}
+
+TEST(MapProjectionTest, MapPositionAndDegreesAgreeOnEveryMap) {
+    for (int index = 0; index < kMapCount; ++index) {
+        SCOPED_TRACE(index);
+        MapProjection projection = LoadedMap(index);
+        for (auto [px, py] : {std::pair{0.0f, 0.0f}, {4000.0f, 3000.0f}, {7999.0f, 5999.0f}}) {
+            float lat = 0;
+            float lon = 0;
+            projection.MapToDegrees(px, py, lat, lon);
+            EXPECT_EQ(projection.CurLat, lat);
+            EXPECT_EQ(projection.CurLon, lon);
+            float x = 0;
+            float y = 0;
+            projection.DegreesToMap(lat, lon, x, y);
+            EXPECT_NEAR(x, px, 1.0f);
+            EXPECT_NEAR(y, py, 1.0f);
+        }
+    }
+}
+
+// Map 7 lies wholly east of Greenwich: its band is the difference of the two edges, not a sum.
+TEST(MapProjectionTest, MapEastOfGreenwichSpansItsOwnBand) {
+    MapProjection projection = LoadedMap(7);
+    float lat = 0;
+    float lon = 0;
+    projection.MapToDegrees(0, 6000, lat, lon);
+    EXPECT_NEAR(lon, 3.6f, 1e-4);
+    projection.MapToDegrees(8000, 6000, lat, lon);
+    EXPECT_NEAR(lon, 14.2833f, 1e-4);
+}
+
+}  // namespace
+}  // namespace tarvex
