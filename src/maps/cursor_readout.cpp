@@ -1,6 +1,9 @@
 #include <cmath>
 
+#include "common/error.h"
 #include "common/number_text.h"
+#include "common/numbers.h"
+#include "document/coord_text.h"
 #include "maps/map_projection.h"
 
 namespace tarvex {
@@ -20,6 +23,16 @@ void MapProjection::SetCursorPosition(float x, float y, std::string_view minutes
     } else {
         CursorLonText = "W" + Format(std::fabs(lonDegrees), "##00") + " " +
                         Format(std::fabs(lonMinutes), minutesFormat);
+    }
+}
+
+float MapProjection::DistanceFromPoint(const std::string& latText,
+                                       const std::string& lonText) const {
+    try {
+        return GreatCircleDistance(CSng(CoordTextToDegrees(latText)),
+                                   CSng(CoordTextToDegrees(lonText)), CurLat, CurLon);
+    } catch (const AppError&) {
+        return 0;
     }
 }
 

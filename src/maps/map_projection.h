@@ -59,6 +59,10 @@ struct MapProjection {
     // Waypoints tab); a position less than a degree west reads W00 with positive minutes.
     void SetCursorPosition(float x, float y, std::string_view minutesFormat);
 
+    // Distance in DistanceUnit from a point given as coordinate text to (CurLat, CurLon), for
+    // the read-out. It is only a read-out: a text that can't be read gives 0, not an error.
+    float DistanceFromPoint(const std::string& latText, const std::string& lonText) const;
+
     // The status-strip read-out of the last pointer position. The Ground units tab shows only
     // the position; the others add the distance from the current point and the path length.
     std::string CursorReadout(int tabIndex, float distance, int16_t pathCurrentPoint,

@@ -5,38 +5,20 @@
 namespace tarvex {
 namespace {
 
-TEST(CursorReadoutTest, LeftEdgeOfMap0ReadsItsConstant) {
+// Map 0 is rectangular, so one scale holds at every latitude and x follows from the longitude.
+TEST(CursorReadoutTest, LongitudeTextKeepsItsSideNearGreenwich) {
     MapProjection projection;
     projection.SetMap(0, 8000, 6000);
-    for (float y : {0.0f, 1234.0f, 6000.0f}) {
-        projection.SetCursorPosition(0, y, "##00.00");
-        EXPECT_EQ(projection.CursorLonText, "W01 38.00") << y;
-    }
-}
-
-TEST(CursorReadoutTest, LessThanADegreeFromGreenwichKeepsTheSide) {
-    struct Case {
-        float lon;
-        const char* text;
-    };
-    const Case cases[] = {
+    projection.SetCursorPosition(0, 1234, "##00.00");
+    EXPECT_EQ(projection.CursorLonText, "W01 38.00");  // the left edge, 1.6333 west
+    const std::pair<float, const char*> cases[] = {
         {0.5f, "E00 30.00"}, {-0.5f, "W00 30.00"}, {-0.01f, "W00 00.60"}, {1.25f, "E01 15.00"}};
-    MapProjection projection;
-    projection.SetMap(0, 8000, 6000);
-    projection.UpdateLatitudeBand();  // map 0 is rectangular: one scale at every latitude
-    for (const Case& c : cases) {
-        const float x = (projection.MapLeftLon + c.lon) / projection.LonPerUnit;
-        projection.SetCursorPosition(x, 3000, "##00.00");
-        EXPECT_EQ(projection.CursorLonText, c.text) << c.lon;
+    for (auto [lon, text] : cases) {
+        const float x = (projection.MapLeftLon + lon) / projection.LonPerUnit;
+        projection.SetCursorPosition(x, 6000, "##00.00");
+        EXPECT_EQ(projection.CursorLonText, text) << lon;
+        EXPECT_EQ(projection.CursorLatText, "N49 56.00");
     }
-}
-
-TEST(CursorReadoutTest, LatitudeTextUsesTheGivenMinutesFormat) {
-    MapProjection projection;
-    projection.SetMap(5, 8000, 6000);
-    projection.SetCursorPosition(2539, 0, "##00.0000");
-    EXPECT_EQ(projection.CursorLatText.substr(0, 4), "N53 ");
-    EXPECT_EQ(projection.CursorLatText.size(), 11u);
 }
 
 TEST(CursorReadoutTest, ReadoutDependsOnTabAndUnits) {
