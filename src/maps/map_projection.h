@@ -9,9 +9,10 @@
 
 namespace tarvex {
 
-inline constexpr int kGroundUnitsTab = 2;
-
 struct MapProjection {
+    // The tab whose read-out shows the position only.
+    static constexpr int kGroundUnitsTab = 2;
+
     // Constants of the map last loaded; longitudes west-positive.
     float MapTopLat = 0;
     float MapBottomLat = 0;
