@@ -1,0 +1,47 @@
+#include "shell/controls/combo_box.h"
+
+#include "common/error.h"
+
+namespace tarvex {
+
+void ComboBox::SetStyle(int style) {
+    if (style < kComboDropDown || style > kComboDropDownList) Raise(kErrInvalidProperty);
+    if (style == style_) return;
+    style_ = style;
+    if (style_ == kComboDropDownList) text_ = List(listIndex_);
+    Notify(Aspect::Appearance);
+}
+
+void ComboBox::StoreListIndex(int index) {
+    listIndex_ = index;
+    text_ = List(index);
+}
+
+void ComboBox::SelectedTextChanged() {
+    if (listIndex_ >= 0 || style_ == kComboDropDownList) text_ = List(listIndex_);
+}
+
+void ComboBox::Clear() {
+    const bool hadText = !text_.empty();
+    text_.clear();
+    ListControl::Clear();
+    if (hadText) Notify(Aspect::Text);
+}
+
+void ComboBox::SetText(const std::string& text) {
+    if (style_ == kComboDropDownList) {
+        if (text == text_) return;
+        const int row = text.empty() ? -1 : FindRow(text);
+        if (row == -1 && !text.empty()) Raise(383, "'Text' property is read-only");
+        SetListIndex(row);
+        return;
+    }
+    if (text == text_) return;
+    text_ = text;
+    // Typed text that no longer is the selected row's leaves no row selected.
+    if (listIndex_ >= 0 && List(listIndex_) != text_) listIndex_ = -1;
+    Notify(Aspect::Text);
+    if (Change) Change();
+}
+
+}  // namespace tarvex

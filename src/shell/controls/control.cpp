@@ -1,0 +1,177 @@
+#include "shell/controls/control.h"
+
+#include <algorithm>
+
+#include "common/error.h"
+
+namespace tarvex {
+
+Colour ResolveColour(Colour c) {
+    if (!IsSystemColour(c)) return c;
+    switch (c & 0xFF) {
+        case 0x05:
+            return Rgb(255, 255, 255);  // window background
+        case 0x0F:
+            return Rgb(192, 192, 192);  // button face
+        default:
+            return 0;  // the text colours
+    }
+}
+
+Colour QBColor(int index) {
+    static constexpr Colour kPalette[16] = {
+        Rgb(0, 0, 0),       Rgb(0, 0, 128),   Rgb(0, 128, 0),   Rgb(0, 128, 128),
+        Rgb(128, 0, 0),     Rgb(128, 0, 128), Rgb(128, 128, 0), Rgb(192, 192, 192),
+        Rgb(128, 128, 128), Rgb(0, 0, 255),   Rgb(0, 255, 0),   Rgb(0, 255, 255),
+        Rgb(255, 0, 0),     Rgb(255, 0, 255), Rgb(255, 255, 0), Rgb(255, 255, 255),
+    };
+    if (index < 0 || index > 15) Raise(kErrInvalidCall);
+    return kPalette[index];
+}
+
+void Component::SetTag(const std::string& tag) {
+    if (tag == tag_) return;
+    tag_ = tag;
+    Notify(Aspect::Appearance);
+}
+
+int Component::AddListener(Listener listener) {
+    const int id = nextListenerId_++;
+    listeners_.emplace_back(id, std::move(listener));
+    return id;
+}
+
+void Component::RemoveListener(int id) {
+    std::erase_if(listeners_, [id](const auto& entry) { return entry.first == id; });
+}
+
+void Component::Notify(Aspect aspect) const {
+    if (listeners_.empty()) return;
+    // A copy, so that a listener may add or remove listeners while it runs.
+    const auto listeners = listeners_;
+    for (const auto& entry : listeners)
+        entry.second(aspect);
+}
+
+void Control::Move(float left, float top, float width, float height) {
+    if (width < 0 || height < 0) Raise(kErrInvalidProperty);
+    if (left == left_ && top == top_ && width == width_ && height == height_) return;
+    left_ = left;
+    top_ = top;
+    width_ = width;
+    height_ = height;
+    Notify(Aspect::Geometry);
+}
+
+void Control::SetEnabled(bool enabled) {
+    if (enabled == enabled_) return;
+    enabled_ = enabled;
+    Notify(Aspect::Appearance);
+}
+
+void Control::SetVisible(bool visible) {
+    if (visible == visible_) return;
+    visible_ = visible;
+    Notify(Aspect::Appearance);
+}
+
+void Control::SetToolTipText(const std::string& text) {
+    if (text == toolTipText_) return;
+    toolTipText_ = text;
+    Notify(Aspect::Appearance);
+}
+
+void Control::SetBackColor(Colour colour) {
+    if (colour == backColor_) return;
+    backColor_ = colour;
+    Notify(Aspect::Appearance);
+}
+
+void Control::SetForeColor(Colour colour) {
+    if (colour == foreColor_) return;
+    foreColor_ = colour;
+    Notify(Aspect::Appearance);
+}
+
+void Control::SetMousePointer(int pointer) {
+    if (pointer == mousePointer_) return;
+    mousePointer_ = pointer;
+    Notify(Aspect::Appearance);
+}
+
+namespace {
+// One sequence for all controls, so a control brought forward lies above every sibling that
+// came forward before it, whatever their kinds.
+long nextFrontRank = 1;
+long nextBackRank = -1;
+}  // namespace
+
+void Control::ZOrder(int position) {
+    zRank_ = position == 0 ? nextFrontRank++ : nextBackRank--;
+    Notify(Aspect::Geometry);
+}
+
+void Control::RaiseClick() const {
+    if (Click) Click();
+}
+
+void Control::RaiseDblClick() const {
+    if (DblClick) DblClick();
+}
+
+void Control::RaiseMouseDown(int button, int shift, float x, float y) const {
+    if (MouseDown) MouseDown(button, shift, x, y);
+}
+
+void Control::RaiseMouseMove(int button, int shift, float x, float y) const {
+    if (MouseMove) MouseMove(button, shift, x, y);
+}
+
+void Control::RaiseMouseUp(int button, int shift, float x, float y) const {
+    if (MouseUp) MouseUp(button, shift, x, y);
+}
+
+int Control::RaiseKeyDown(int keyCode, int shift) const {
+    if (KeyDown) KeyDown(keyCode, shift);
+    return keyCode;
+}
+
+int Control::RaiseKeyUp(int keyCode, int shift) const {
+    if (KeyUp) KeyUp(keyCode, shift);
+    return keyCode;
+}
+
+int Control::RaiseKeyPress(int keyAscii) const {
+    if (KeyPress) KeyPress(keyAscii);
+    return keyAscii;
+}
+
+void Control::RaiseGotFocus() const {
+    if (GotFocus) GotFocus();
+}
+
+void Control::RaiseLostFocus() const {
+    if (LostFocus) LostFocus();
+}
+
+int Control::RaiseDragOver(const DragData& data) const {
+    int effect = kDropEffectNone;
+    if (OLEDragOver) {
+        effect = kDropEffectCopy | kDropEffectMove;
+        OLEDragOver(data, effect);
+    }
+    return effect;
+}
+
+void Control::RaiseDragDrop(const DragData& data) const {
+    int effect = kDropEffectCopy;
+    if (OLEDragDrop) OLEDragDrop(data, effect);
+}
+
+void CaptionControl::SetCaption(const std::string& caption) {
+    if (caption == caption_) return;
+    caption_ = caption;
+    Notify(Aspect::Text);
+}
+
+}  // namespace tarvex

@@ -1,0 +1,16 @@
+#pragma once
+// All control models, for the forms that declare their controls with them.
+#include "shell/controls/check_box.h"
+#include "shell/controls/combo_box.h"
+#include "shell/controls/common_dialog.h"
+#include "shell/controls/control.h"
+#include "shell/controls/control_array.h"
+#include "shell/controls/list_box.h"
+#include "shell/controls/menu_item.h"
+#include "shell/controls/option_button.h"
+#include "shell/controls/picture_surface.h"
+#include "shell/controls/simple_controls.h"
+#include "shell/controls/tab_control.h"
+#include "shell/controls/text_box.h"
+#include "shell/controls/timer.h"
+#include "shell/controls/up_down.h"

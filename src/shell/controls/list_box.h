@@ -1,0 +1,45 @@
+#pragma once
+#include <vector>
+
+#include "shell/controls/list_control.h"
+
+namespace tarvex {
+
+constexpr int kMultiSelectNone = 0;
+constexpr int kMultiSelectSimple = 1;
+constexpr int kMultiSelectExtended = 2;
+
+// A list box. Single selection: Selected(i) is true for the ListIndex row only, and setting it
+// goes through ListIndex. Multiple selection: each row has its own Selected flag (a change
+// fires Click); ListIndex is the row with the focus, and setting it also selects that row.
+class ListBox : public ListControl {
+  public:
+    using ListControl::ListControl;
+
+    int MultiSelect() const { return multiSelect_; }
+    // Switching the mode drops every selection but the ListIndex row's.
+    void SetMultiSelect(int mode);
+
+    // Out of range raises error 381.
+    bool Selected(int index) const;
+    void SetSelected(int index, bool selected);
+    int SelCount() const;
+    // The user's selection in one step (a click, shift-click or drag over rows): exactly these
+    // rows selected and the focus on focusRow. Fires Click once when anything changed.
+    void SetSelection(const std::vector<int>& rows, int focusRow);
+
+    // The first row shown; clamped to the rows present.
+    int TopIndex() const;
+    void SetTopIndex(int index);
+
+  protected:
+    void StoreListIndex(int index) override;
+    void SelectedTextChanged() override;
+    bool MultiSelecting() const override { return multiSelect_ != kMultiSelectNone; }
+
+  private:
+    int multiSelect_ = kMultiSelectNone;
+    int topIndex_ = 0;
+};
+
+}  // namespace tarvex
