@@ -8,14 +8,16 @@
 --     of arc in a mission file and is shown to the designer as 1000 metres or
 --     3280.8 feet. XOffset points ahead (north for a landscape layout),
 --     YOffset to the right;
---   * frmPatterns stations in metres from the leader: frmX to the right,
---     frmY ahead (negative behind the leader), frmZ up.
+--   * frmPatterns stations in whole metres from the leader: frmX ahead
+--     (negative behind the leader), frmY to the right, frmZ up.
 --
 -- Tables keep SQLite's hidden row id, so a query without ORDER BY returns rows
 -- in the order they were inserted and an editable key (AcID, GrndNames.ID) can
 -- change without moving the row.
 --
 -- Booleans are 0/1 so that "Add2Combo=True" and "IsDefault=False" compare.
+
+BEGIN;
 
 CREATE TABLE tblFamily (
     UnitRole TEXT NOT NULL,
@@ -407,3 +409,5 @@ BEGIN
       AND (SELECT FullName FROM Stationary
            WHERE Stationary.UnitType = GrndTypes.UnitType) IS OLD.FullName;
 END;
+
+COMMIT;
