@@ -61,7 +61,8 @@ CREATE TABLE Airfields (
     RwyLon REAL NOT NULL,
     TypeID INTEGER NOT NULL DEFAULT 1,
     Elevation INTEGER NOT NULL DEFAULT 0,
-    ROT REAL NOT NULL DEFAULT 0
+    -- Runway heading in degrees; a whole heading reads back whole.
+    ROT NUMERIC NOT NULL DEFAULT 0
 );
 
 -- Corner texts pass unchanged into map_1/map_left/map_bottom/map_right.
