@@ -23,7 +23,8 @@ std::string DegreesToCoordText(double& degrees, bool isLatitude, std::string_vie
 // Brings a text to the two-digit form in place and returns it: leading blanks go, the
 // degrees are characters 2 and 3 with the mask "00", the minutes (read as a 32-bit float) get
 // minuteMask. Minutes are never carried into the degrees (59.999 -> "60.00"). A text without
-// a blank is read whole as minutes.
+// a blank is read whole as minutes; an empty text becomes "00 00.00" (no letter), so callers
+// that keep "no position" as "" test for it first.
 std::string& NormalizeCoordText(std::string& text, std::string_view minuteMask);
 
 // Keeps a value within bounds: below low it becomes low, above high it becomes high, in the

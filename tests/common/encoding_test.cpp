@@ -6,10 +6,8 @@ namespace tarvex {
 namespace {
 
 TEST(EncodingTest, RoundTripAndReplacement) {
-    const std::string utf8 = "Caf\xC3\xA9 \xE2\x82\xAC 5 \xE2\x80\x93 \xC5\xBD";  // é € – Ž
-    const std::string cp1252 = Utf8ToCp1252(utf8);
-    EXPECT_EQ(cp1252, "Caf\xE9 \x80 5 \x96 \x8E");
-    EXPECT_EQ(Cp1252ToUtf8(cp1252), utf8);
+    const std::string utf8 = "Caf\xC3\xA9 \xE2\x82\xAC \xE2\x80\x93 \xC5\xBD";  // é € – Ž
+    EXPECT_EQ(Utf8ToCp1252(utf8), "Caf\xE9 \x80 \x96 \x8E");
     // Outside the code page, and broken UTF-8, become "?".
     EXPECT_EQ(Utf8ToCp1252("\xD0\x96 \xF0\x9F\x98\x80"), "? ?");
     EXPECT_EQ(Utf8ToCp1252("a\xC3(b\xE2\x82"), "a?(b??");
@@ -25,8 +23,7 @@ TEST(EncodingTest, SplitLinesAcceptsEveryLineEnd) {
     EXPECT_EQ(SplitLines("a\r\nb\nc\rd"), (Lines{"a", "b", "c", "d"}));
     EXPECT_EQ(SplitLines("a\r\n"), (Lines{"a"}));
     EXPECT_EQ(SplitLines(""), Lines{});
-    EXPECT_EQ(SplitLines("\r\n\r\n"), (Lines{"", ""}));
-    EXPECT_EQ(SplitLines("a\n\rb"), (Lines{"a", "", "b"}));
+    EXPECT_EQ(SplitLines("a\n\rb\r\n\r\n"), (Lines{"a", "", "b", ""}));
 }
 
 }  // namespace

@@ -2,9 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "common/error.h"
-#include "document/coord_text.h"
-
 namespace tarvex {
 namespace {
 
@@ -53,32 +50,6 @@ TEST(UnitPlacementTest, HeadingWrapsAndKeepsItsFraction) {
         EXPECT_NEAR(placement.UnitHeading, c.result, 1e-9)
             << c.layoutHeading << "+" << c.unitHeading;
     }
-}
-
-TEST(UnitPlacementTest, OriginWithoutBlankFailsTheFrame) {
-    UnitPlacement placement;
-    EXPECT_THROW(placement.SetLayoutFrame("N5123", "E01 00.00"), AppError);
-    // An empty position is the point 0, 0.
-    placement.LayoutHeading = 0;
-    placement.SetLayoutFrame("", "");
-    placement.PlaceUnit(0, 0, 0);
-    EXPECT_EQ(placement.UnitLat, "N0 00.0000");
-}
-
-TEST(UnitPlacementTest, HalfTurnLeadsBackToTheOrigin) {
-    // The loader finds a layout's origin this way from its first unit's position.
-    UnitPlacement placement;
-    placement.LayoutHeading = 30;
-    placement.SetLayoutFrame("N51 23.4500", "E01 05.0000");
-    placement.PlaceUnit(0, 2.5f, -1.25f);
-    const std::string unitLat = placement.UnitLat, unitLon = placement.UnitLon;
-    float back = static_cast<float>(placement.LayoutHeading - 180);
-    placement.LayoutHeading = NormalizeHeading(back);
-    placement.SetLayoutFrame(unitLat, unitLon);
-    placement.PlaceUnit(0, 2.5f, -1.25f);
-    std::string lat = placement.UnitLat, lon = placement.UnitLon;
-    EXPECT_EQ(NormalizeCoordText(lat, "00.00"), "N51 23.45");
-    EXPECT_EQ(NormalizeCoordText(lon, "00.00"), "E01 05.00");
 }
 
 }  // namespace
