@@ -1,0 +1,205 @@
+#include "refdata/connection.h"
+
+#include <sqlite3.h>
+
+#include <filesystem>
+
+#include "common/error.h"
+#include "refdata/database_errors.h"
+
+namespace tarvex::detail {
+
+namespace {
+
+// Texts the program composes with values in them are each run once; past this many, the
+// cache starts afresh rather than grow without end.
+constexpr size_t kMaxCachedStatements = 512;
+
+// Resets a statement when the use of it ends, however it ends.
+class ResetOnExit {
+  public:
+    explicit ResetOnExit(sqlite3_stmt* statement) : statement_(statement) {}
+    ~ResetOnExit() {
+        sqlite3_reset(statement_);
+        sqlite3_clear_bindings(statement_);
+    }
+    ResetOnExit(const ResetOnExit&) = delete;
+    ResetOnExit& operator=(const ResetOnExit&) = delete;
+
+  private:
+    sqlite3_stmt* statement_;
+};
+
+FieldValue ColumnValue(sqlite3_stmt* statement, int index) {
+    switch (sqlite3_column_type(statement, index)) {
+        case SQLITE_INTEGER:
+            return FieldValue(static_cast<long long>(sqlite3_column_int64(statement, index)));
+        case SQLITE_FLOAT:
+            return FieldValue(sqlite3_column_double(statement, index));
+        case SQLITE_NULL:
+            return FieldValue();
+        default: {
+            const auto* text = sqlite3_column_text(statement, index);
+            const int size = sqlite3_column_bytes(statement, index);
+            return FieldValue(std::string(reinterpret_cast<const char*>(text), size));
+        }
+    }
+}
+
+int Bind(sqlite3_stmt* statement, int index, const FieldValue& value) {
+    switch (value.GetKind()) {
+        case FieldValue::Kind::Null:
+            return sqlite3_bind_null(statement, index);
+        case FieldValue::Kind::Integer:
+            return sqlite3_bind_int64(statement, index, value.Int64());
+        case FieldValue::Kind::Real:
+            return sqlite3_bind_double(statement, index, value.Double());
+        case FieldValue::Kind::Text: {
+            const std::string text = value.Text();
+            return sqlite3_bind_text(statement, index, text.data(), static_cast<int>(text.size()),
+                                     SQLITE_TRANSIENT);
+        }
+    }
+    return SQLITE_OK;
+}
+
+}  // namespace
+
+Connection::Connection(const std::string& path) : path_(path) {
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(path, error)) Raise(kErrFileNotFound);
+    // Without SQLITE_OPEN_CREATE a missing file is never made into an empty database.
+    if (sqlite3_open_v2(path.c_str(), &db_, SQLITE_OPEN_READWRITE, nullptr) != SQLITE_OK) {
+        const std::string message = db_ ? sqlite3_errmsg(db_) : "out of memory";
+        Close();
+        Raise(kErrSqlFailed, message);
+    }
+    sqlite3_extended_result_codes(db_, 0);
+    // Another copy of the program may be writing; wait for it rather than fail at once.
+    sqlite3_busy_timeout(db_, 5000);
+    // The header is read only by the first statement, so this is where a file of another
+    // kind shows itself.
+    const int rc =
+        sqlite3_exec(db_, "PRAGMA foreign_keys = ON; SELECT count(*) FROM sqlite_master;", nullptr,
+                     nullptr, nullptr);
+    if (rc != SQLITE_OK) {
+        const std::string message = sqlite3_errmsg(db_);
+        Close();
+        if (rc == SQLITE_NOTADB || rc == SQLITE_CORRUPT) {
+            Raise(kErrUnrecognizedDatabase, "Unrecognized database format '" + path + "'.");
+        }
+        Raise(kErrSqlFailed, message);
+    }
+}
+
+Connection::~Connection() {
+    Close();
+}
+
+void Connection::Close() noexcept {
+    for (auto& [sql, statement] : cache_)
+        sqlite3_finalize(statement);
+    cache_.clear();
+    if (db_) sqlite3_close_v2(db_);
+    db_ = nullptr;
+}
+
+void Connection::RaiseEngineError() const {
+    if (!db_) Raise(kErrObjectClosed, "Object invalid or no longer set.");
+    Raise(kErrSqlFailed, sqlite3_errmsg(db_));
+}
+
+sqlite3_stmt* Connection::Prepare(const std::string& sql) {
+    if (!db_) RaiseEngineError();
+    if (const auto found = cache_.find(sql); found != cache_.end()) return found->second;
+    if (cache_.size() >= kMaxCachedStatements) {
+        for (auto& [text, statement] : cache_)
+            sqlite3_finalize(statement);
+        cache_.clear();
+    }
+    sqlite3_stmt* statement = nullptr;
+    const char* tail = nullptr;
+    if (sqlite3_prepare_v3(db_, sql.c_str(), static_cast<int>(sql.size()),
+                           SQLITE_PREPARE_PERSISTENT, &statement, &tail) != SQLITE_OK) {
+        RaiseEngineError();
+    }
+    if (!statement) Raise(kErrSqlFailed, "Invalid SQL statement: the text is empty.");
+    cache_.emplace(sql, statement);
+    return statement;
+}
+
+void Connection::Run(const std::string& sql) {
+    if (!db_) RaiseEngineError();
+    const char* next = sql.c_str();
+    while (*next) {
+        sqlite3_stmt* statement = nullptr;
+        if (sqlite3_prepare_v2(db_, next, -1, &statement, &next) != SQLITE_OK) RaiseEngineError();
+        if (!statement) break;  // only blanks or comments remain
+        int rc;
+        while ((rc = sqlite3_step(statement)) == SQLITE_ROW) {
+        }
+        if (rc != SQLITE_DONE) {
+            const std::string message = sqlite3_errmsg(db_);
+            sqlite3_finalize(statement);
+            Raise(kErrSqlFailed, message);
+        }
+        sqlite3_finalize(statement);
+    }
+}
+
+void Connection::Run(const std::string& sql, const std::vector<FieldValue>& parameters) {
+    Query(sql, parameters);
+}
+
+std::vector<std::vector<FieldValue>> Connection::Query(const std::string& sql,
+                                                       const std::vector<FieldValue>& parameters,
+                                                       std::vector<std::string>* columns) {
+    sqlite3_stmt* statement = Prepare(sql);
+    ResetOnExit reset(statement);
+    for (size_t i = 0; i < parameters.size(); ++i) {
+        if (Bind(statement, static_cast<int>(i) + 1, parameters[i]) != SQLITE_OK) {
+            RaiseEngineError();
+        }
+    }
+    const int count = sqlite3_column_count(statement);
+    if (columns) {
+        columns->clear();
+        for (int i = 0; i < count; ++i)
+            columns->push_back(sqlite3_column_name(statement, i));
+    }
+    std::vector<std::vector<FieldValue>> rows;
+    int rc;
+    while ((rc = sqlite3_step(statement)) == SQLITE_ROW) {
+        std::vector<FieldValue>& row = rows.emplace_back();
+        row.reserve(count);
+        for (int i = 0; i < count; ++i)
+            row.push_back(ColumnValue(statement, i));
+    }
+    if (rc != SQLITE_DONE) RaiseEngineError();
+    return rows;
+}
+
+std::vector<std::string> Connection::ColumnNames(const std::string& sql) {
+    sqlite3_stmt* statement = Prepare(sql);
+    std::vector<std::string> names;
+    for (int i = 0; i < sqlite3_column_count(statement); ++i) {
+        names.push_back(sqlite3_column_name(statement, i));
+    }
+    return names;
+}
+
+std::int64_t Connection::LastInsertRowid() const {
+    return db_ ? sqlite3_last_insert_rowid(db_) : 0;
+}
+
+ObjectKind Connection::KindOf(const std::string& name, std::string* canonical) {
+    const auto rows = Query(
+        "SELECT type, name FROM sqlite_master WHERE type IN ('table', 'view') "
+        "AND name = ?1 COLLATE NOCASE",
+        {FieldValue(name)});
+    if (rows.empty()) return ObjectKind::None;
+    if (canonical) *canonical = rows[0][1].Text();
+    return rows[0][0].Text() == "view" ? ObjectKind::View : ObjectKind::Table;
+}
+
+}  // namespace tarvex::detail

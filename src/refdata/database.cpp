@@ -1,0 +1,76 @@
+#include "refdata/database.h"
+
+#include "common/error.h"
+#include "refdata/connection.h"
+#include "refdata/sql_tokens.h"
+#include "refdata/sql_translation.h"
+
+namespace tarvex {
+
+namespace {
+
+// Whether a text holds more than one statement: a ";" with something other than blanks
+// behind it.
+bool SeveralStatements(const std::string& sql) {
+    bool ended = false;
+    for (const SqlToken& token : TokenizeSql(sql)) {
+        if (token.kind == SqlTokenKind::Space) continue;
+        if (ended) return true;
+        ended = token.kind == SqlTokenKind::Punct && token.text == ";";
+    }
+    return false;
+}
+
+}  // namespace
+
+Database::~Database() = default;
+
+Database& Database::operator=(Database&& other) noexcept {
+    if (this != &other) {
+        Close();
+        connection_ = std::move(other.connection_);
+    }
+    return *this;
+}
+
+void Database::Open(const std::string& path) {
+    Close();
+    connection_ = std::make_shared<detail::Connection>(path);
+}
+
+bool Database::IsOpen() const {
+    return connection_ && connection_->IsOpen();
+}
+
+const std::string& Database::Name() const {
+    static const std::string kNone;
+    return connection_ ? connection_->Path() : kNone;
+}
+
+Recordset Database::OpenRecordset(const std::string& nameOrSql, int type) {
+    if (!IsOpen()) Raise(kErrObjectClosed, "Object invalid or no longer set.");
+    return Recordset(connection_, nameOrSql, type);
+}
+
+void Database::Execute(const std::string& sql) {
+    if (!IsOpen()) Raise(kErrObjectClosed, "Object invalid or no longer set.");
+    const std::string translated = TranslateSql(sql);
+    // One statement goes through the statement cache; a script is run as it stands.
+    if (SeveralStatements(translated)) {
+        connection_->Run(translated);
+    } else {
+        connection_->Run(translated, {});
+    }
+}
+
+void Database::CompactDatabase(const std::string& source, const std::string& destination) {
+    detail::Connection connection(source);
+    connection.Run("VACUUM INTO ?1", {FieldValue(destination)});
+}
+
+void Database::Close() {
+    if (connection_) connection_->Close();
+    connection_.reset();
+}
+
+}  // namespace tarvex

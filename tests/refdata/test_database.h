@@ -1,0 +1,27 @@
+#pragma once
+// A fresh reference database for each test, built from the schema and seed scripts of
+// data/refdb in a temporary folder of its own.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+
+namespace tarvex::testing {
+
+// Runs SQL scripts into a new database file with the plain engine, outside the layer under
+// test.
+void BuildDatabaseFile(const std::filesystem::path& file, const std::string& sql);
+std::string ReadTextFile(const std::filesystem::path& file);
+std::string SchemaSql();
+std::string SeedSql();
+
+class ReferenceFolderTest : public ::testing::Test {
+  protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    std::filesystem::path folder;  // empty temporary folder of this test
+    std::string dbPath;            // folder / "Tarvex Missions.mdb", built from schema and seed
+};
+
+}  // namespace tarvex::testing
