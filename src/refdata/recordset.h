@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "common/error.h"
 #include "refdata/field_value.h"
 
 namespace tarvex {
