@@ -1,0 +1,70 @@
+#include "shell/forms/form.h"
+
+#include <cctype>
+
+namespace tarvex {
+
+namespace {
+
+bool SameName(std::string_view a, std::string_view b) {
+    if (a.size() != b.size()) return false;
+    for (size_t i = 0; i < a.size(); ++i) {
+        const auto ca = static_cast<unsigned char>(a[i]);
+        const auto cb = static_cast<unsigned char>(b[i]);
+        if (std::tolower(ca) != std::tolower(cb)) return false;
+    }
+    return true;
+}
+
+}  // namespace
+
+Component* Form::FindComponent(std::string_view name, int index) const {
+    for (const Registered& entry : entries_) {
+        if (!SameName(entry.name, name)) continue;
+        if (entry.single) {
+            if (index == -1) return entry.single;
+        } else if (index >= 0) {
+            if (Component* element = entry.find(index)) return element;
+        }
+    }
+    return nullptr;
+}
+
+Control* Form::FindControl(std::string_view name, int index) const {
+    return dynamic_cast<Control*>(FindComponent(name, index));
+}
+
+std::vector<Component*> Form::Components() const {
+    std::vector<Component*> all;
+    for (const Registered& entry : entries_) {
+        if (entry.single)
+            all.push_back(entry.single);
+        else
+            entry.each(all);
+    }
+    return all;
+}
+
+std::vector<Control*> Form::Controls() const {
+    std::vector<Control*> controls;
+    for (Component* component : Components())
+        if (auto* control = dynamic_cast<Control*>(component)) controls.push_back(control);
+    return controls;
+}
+
+void Form::AddRows(ListControl& list, std::initializer_list<const char*> texts) {
+    for (const char* text : texts) {
+        const int row = list.ListCount();
+        list.AddItem(text);
+        list.SetItemData(list.NewIndex(), row);
+    }
+}
+
+void Form::AddRows(ListControl& list, std::initializer_list<FixedRow> rows) {
+    for (const FixedRow& row : rows) {
+        list.AddItem(row.text);
+        list.SetItemData(list.NewIndex(), row.data);
+    }
+}
+
+}  // namespace tarvex

@@ -1,0 +1,36 @@
+#pragma once
+// The records of the ground layouts: a layout picked in a combo, the entry of a new one, and a
+// grid of its units with drop-down lists laid over the type and damage cells.
+#include "shell/forms/form.h"
+
+namespace tarvex {
+
+class frmGrndNames : public Form {
+  public:
+    explicit frmGrndNames(Editor& ed);
+
+    Editor& ed;
+
+    // TODO(forms): datPrimaryRS, datSecondaryRS (data sources) and grdDataGrid (bound grid)
+    // once the grid models exist.
+    Frame fraLayoutView;
+    ComboBox cmbGULayoutName;
+    // Shows the layout's ID.
+    Label Label1;
+    Label lblUnitCount;
+    Frame fraLayoutAdd;
+    TextBox txtLayoutName;
+    TextBox txtLayoutID;
+    TextBox txtLayoutTotal;
+    ListBox lstStationaryName;
+    TextBox txtStationaryName;
+    ListBox theDamageList;
+    PictureSurface picButtons;
+    CommandButton cmdAdd;
+    CommandButton cmdUpdate;
+    CommandButton cmdDeleteLayout;
+    CommandButton cmdDeleteUnits;
+    CommandButton cmdClose;
+};
+
+}  // namespace tarvex

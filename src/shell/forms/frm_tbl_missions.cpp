@@ -1,0 +1,30 @@
+#include "shell/forms/frm_tbl_missions.h"
+
+namespace tarvex {
+
+frmtblMissions::frmtblMissions(Editor& ed)
+    : Form("frmtblMissions"), ed(ed), optAllegiance("optAllegiance", 0, 3) {
+    SetCaption("Missions Summary");
+    Move(0, 0, 9300, 6340);
+
+    Add(lblType, "lblType");
+    Add(lblSummary, "lblSummary");
+    Add(lblObjective, "lblObjective");
+    Add(lblDate, "lblDate");
+    Add(lblTime, "lblTime");
+    Add(lblReqd, "lblReqd");
+    Add(lblClouds, "lblClouds");
+    Add(lblWind, "lblWind");
+    Add(lblVis, "lblVis");
+    Add(lblAlly, "lblAlly");
+    // The filter's row is the Allegiance value, 0 for all.
+    Add(optAllegiance);
+    const char* captions[] = {"All", "RAF", "Luftwaffe", "USAAF"};
+    for (int k = 0; k <= 3; ++k)
+        optAllegiance(k).SetCaption(captions[k]);
+    Add(cmdLoad, "cmdLoad").SetCaption("&Load");
+    Add(btnDelete, "btnDelete").SetCaption("&Delete");
+    Add(cmdClose, "cmdClose").SetCaption("&Close");
+}
+
+}  // namespace tarvex

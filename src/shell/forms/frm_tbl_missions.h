@@ -1,0 +1,32 @@
+#pragma once
+// The browser over the mission summaries: a grid, the details of the selected mission, the
+// allegiance filter and the open and delete actions.
+#include "shell/forms/form.h"
+
+namespace tarvex {
+
+class frmtblMissions : public Form {
+  public:
+    explicit frmtblMissions(Editor& ed);
+
+    Editor& ed;
+
+    // TODO(forms): datPrimaryRS (data source) and grdDataGrid (bound grid) once the grid
+    // models exist.
+    Label lblType;
+    Label lblSummary;
+    Label lblObjective;
+    Label lblDate;
+    Label lblTime;
+    Label lblReqd;
+    Label lblClouds;
+    Label lblWind;
+    Label lblVis;
+    Label lblAlly;
+    ControlArray<OptionButton> optAllegiance;
+    CommandButton cmdLoad;
+    CommandButton btnDelete;
+    CommandButton cmdClose;
+};
+
+}  // namespace tarvex
