@@ -15,6 +15,11 @@ class FieldValue {
     FieldValue(int value) : kind_(Kind::Integer), integer_(value) {}
     FieldValue(long value) : kind_(Kind::Integer), integer_(value) {}
     FieldValue(long long value) : kind_(Kind::Integer), integer_(value) {}
+    FieldValue(unsigned value) : kind_(Kind::Integer), integer_(value) {}
+    FieldValue(unsigned long value)
+        : kind_(Kind::Integer), integer_(static_cast<std::int64_t>(value)) {}
+    FieldValue(unsigned long long value)
+        : kind_(Kind::Integer), integer_(static_cast<std::int64_t>(value)) {}
     // A stored boolean: true is 1, as SQLite's TRUE.
     FieldValue(bool value) : kind_(Kind::Integer), integer_(value ? 1 : 0) {}
     FieldValue(double value) : kind_(Kind::Real), real_(value) {}

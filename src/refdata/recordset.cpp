@@ -1,6 +1,7 @@
 #include "refdata/recordset.h"
 
 #include <algorithm>
+#include <cctype>
 
 #include "common/error.h"
 #include "common/text.h"
@@ -15,6 +16,15 @@ namespace {
 
 std::string Quoted(const std::string& name) {
     return "[" + name + "]";
+}
+
+// A quick test that spares the full look at the text for the usual lookup.
+bool LooksLikeSelect(const std::string& sql) {
+    const size_t start = sql.find_first_not_of(" \t\r\n");
+    if (start == std::string::npos || sql.size() <= start + 6) return false;
+    const char next = sql[start + 6];
+    return StartsWithText(std::string_view(sql).substr(start), "SELECT") &&
+           !(std::isalnum(static_cast<unsigned char>(next)) || next == '_');
 }
 
 }  // namespace
@@ -47,11 +57,14 @@ Recordset::Recordset(std::shared_ptr<detail::Connection> connection, const std::
     const bool snapshot = type == kSnapshot;
     std::string source;
     std::string selectList = "*";
-    if (const std::string name = NameOnly(sql); !name.empty()) {
+    if (const std::string name = LooksLikeSelect(sql) ? std::string() : NameOnly(sql);
+        !name.empty()) {
         source = name;
         loadSql_ = "SELECT * FROM " + Quoted(name);
     } else {
         loadSql_ = sql;
+    }
+    if (!snapshot && source.empty()) {
         const SelectParts parts = ParseSelect(sql);
         if (parts.isSelect && !parts.distinct) {
             source = parts.singleSource;

@@ -71,6 +71,8 @@ void DropForeignOrderQualifiers(std::vector<SqlToken>& tokens, const SelectParts
 }  // namespace
 
 std::string TranslateSql(std::string_view sql) {
+    // Most lookups have nothing to rewrite: no quote, no star, no qualifier.
+    if (sql.find_first_of("\"*.") == std::string_view::npos) return std::string(sql);
     std::vector<SqlToken> tokens = TokenizeSql(sql);
     for (SqlToken& token : tokens) {
         if (token.kind == SqlTokenKind::DoubleQuoted) {
