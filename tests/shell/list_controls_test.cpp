@@ -175,6 +175,28 @@ TEST(ComboBoxTest, DropDownListTextSelectsARowOrRefuses) {
     EXPECT_EQ(clicks, 1);
 }
 
+TEST(ComboBoxTest, OpenListFollowsTheHighlightQuietlyAndTheChoiceClicks) {
+    ComboBox combo("cmbRunways");
+    combo.SetStyle(kComboDropDownList);
+    Fill(combo, {"Biggin Hill", "Hawkinge", "Manston"});
+    std::vector<std::string> events;
+    combo.Click = [&] { events.push_back("click " + std::to_string(combo.ListIndex())); };
+    combo.Highlight = [&](int row) { events.push_back("highlight " + combo.List(row)); };
+    combo.UserPick = [&] { events.push_back("pick " + combo.Text()); };
+
+    combo.UserHighlight(1);
+    combo.UserHighlight(2);
+    combo.UserCancelDrop();
+    EXPECT_EQ(combo.ListIndex(), -1);
+    combo.UserHighlight(0);
+    combo.UserChoose(2);
+    combo.UserHighlight(1);
+    combo.UserChoose(2);  // the row it had before the list opened: no Click
+    EXPECT_EQ(events, (std::vector<std::string>{"highlight Hawkinge", "highlight Manston",
+                                                "highlight Biggin Hill", "click 2", "pick Manston",
+                                                "highlight Hawkinge", "pick Manston"}));
+}
+
 TEST(ComboBoxTest, FillingThroughTheItemListInterface) {
     ComboBox combo("cmbGrndAirfield");
     ItemList& items = combo;

@@ -24,6 +24,7 @@ void ComboBox::SelectedTextChanged() {
 void ComboBox::Clear() {
     const bool hadText = !text_.empty();
     text_.clear();
+    rowBeforeDrop_ = kNotDropped;
     ListControl::Clear();
     if (hadText) Notify(Aspect::Text);
 }
@@ -42,6 +43,34 @@ void ComboBox::SetText(const std::string& text) {
     if (listIndex_ >= 0 && List(listIndex_) != text_) listIndex_ = -1;
     Notify(Aspect::Text);
     if (Change) Change();
+}
+
+void ComboBox::MoveQuietly(int row) {
+    if (row < -1 || row >= ListCount()) Raise(kErrInvalidProperty);
+    if (row == listIndex_) return;
+    StoreListIndex(row);
+    Notify(Aspect::Selection);
+}
+
+void ComboBox::UserHighlight(int row) {
+    if (rowBeforeDrop_ == kNotDropped) rowBeforeDrop_ = listIndex_;
+    MoveQuietly(row);
+    if (Highlight) Highlight(row);
+}
+
+void ComboBox::UserChoose(int row) {
+    const int before = rowBeforeDrop_ == kNotDropped ? listIndex_ : rowBeforeDrop_;
+    rowBeforeDrop_ = kNotDropped;
+    MoveQuietly(row);
+    if (row != before) RaiseClick();
+    if (UserPick) UserPick();
+}
+
+void ComboBox::UserCancelDrop() {
+    if (rowBeforeDrop_ == kNotDropped) return;
+    const int before = rowBeforeDrop_;
+    rowBeforeDrop_ = kNotDropped;
+    MoveQuietly(before < ListCount() ? before : -1);
 }
 
 }  // namespace tarvex

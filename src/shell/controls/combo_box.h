@@ -14,8 +14,11 @@ constexpr int kComboDropDownList = 2;  // the text is always the selected row's
 // - With the drop-down list style, setting Text selects the row with that text (Click);
 //   a text that matches no row raises error 383, the empty text selects no row.
 // - Clear also empties Text, silently.
-// Highlight(row) is raised by the skin while the user moves through the open list;
-// UserPick after the user chose a row (the skin sets ListIndex first).
+// While the drop-down list is open the selected row follows the highlight, as the desktop's
+// list does, without Click: UserHighlight moves it quietly and raises Highlight(row). The
+// user's choice (UserChoose) raises Click when the chosen row differs from the row selected
+// before the list opened, then UserPick (the command notification the forms watch).
+// UserCancelDrop puts the row selected before the list opened back, quietly.
 class ComboBox : public ListControl {
   public:
     using ListControl::ListControl;
@@ -28,12 +31,10 @@ class ComboBox : public ListControl {
 
     void Clear() override;
 
-    void RaiseHighlight(int row) const {
-        if (Highlight) Highlight(row);
-    }
-    void RaiseUserPick() const {
-        if (UserPick) UserPick();
-    }
+    void UserHighlight(int row);
+    void UserChoose(int row);
+    void UserCancelDrop();
+    bool DroppedDown() const { return rowBeforeDrop_ != kNotDropped; }
 
     std::function<void()> Change;
     std::function<void(int row)> Highlight;
@@ -44,8 +45,13 @@ class ComboBox : public ListControl {
     void SelectedTextChanged() override;
 
   private:
+    static constexpr int kNotDropped = -2;
+    // Quiet move of the selected row, for the open list.
+    void MoveQuietly(int row);
+
     int style_ = kComboDropDown;
     std::string text_;
+    int rowBeforeDrop_ = kNotDropped;
 };
 
 }  // namespace tarvex

@@ -162,6 +162,9 @@ class Control : public Component {
     void SetFocus() { Notify(Aspect::Focus); }
 
     // Input from the skin (or a test). Each runs the matching event if one is wired.
+    // A press and release of the left button go: RaiseMouseDown, then the control's own
+    // change (a list's selection, or UserClick on buttons, check boxes and option buttons),
+    // then RaiseMouseUp, so that a MouseUp handler sees the new value.
     virtual void UserClick() { RaiseClick(); }
     void RaiseClick() const;
     void RaiseDblClick() const;
