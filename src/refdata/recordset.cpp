@@ -227,17 +227,18 @@ void Recordset::MoveLast() {
 }
 
 void Recordset::MoveNext() {
-    if (Eof()) Raise(kErrNoCurrentRecord);
+    // After a delete the position already names the row that followed the deleted one (or
+    // the end, when the last row went).
+    if (Eof() && !onDeleted_) Raise(kErrNoCurrentRecord);
     EndEdit();
-    // After a delete the position already names the row that followed the deleted one.
     if (!onDeleted_) ++position_;
     onDeleted_ = false;
 }
 
 void Recordset::MovePrevious() {
-    if (Bof()) Raise(kErrNoCurrentRecord);
+    if (Bof() && !onDeleted_) Raise(kErrNoCurrentRecord);
     EndEdit();
-    --position_;
+    position_ = std::max(position_ - 1, -1L);
     onDeleted_ = false;
 }
 
