@@ -77,15 +77,19 @@ const std::vector<std::pair<const char*, const char*>> kInventory = {
      "YLine picAC fraStationary lstStationary"},
     {"frmNewRecord", "txtNewRecord cmbPilotName btnAddRecord btnReplace btnCancel"},
     {"frmAircraft",
-     "picButtons cmdAdd cmdDelete cmdUpdate cmdClose Label2 cmbAirforce Label1 cmbUnitRole "
+     "datPrimaryRS grdDataGrid picButtons cmdAdd cmdDelete cmdUpdate cmdClose Label2 cmbAirforce "
+     "Label1 cmbUnitRole "
      "btnBrowse theFamList theAllyList"},
     {"frmGrndNames",
-     "fraLayoutView cmbGULayoutName Label1 lblUnitCount fraLayoutAdd txtLayoutName txtLayoutID "
+     "datPrimaryRS datSecondaryRS grdDataGrid fraLayoutView cmbGULayoutName Label1 lblUnitCount "
+     "fraLayoutAdd txtLayoutName txtLayoutID "
      "txtLayoutTotal lstStationaryName txtStationaryName theDamageList picButtons cmdAdd "
      "cmdUpdate cmdDeleteLayout cmdDeleteUnits cmdClose"},
-    {"frmGUOffsets", "Picture1 btnOffsetEdit btnDelGU lblUpGU lblDownGU"},
+    {"frmGUOffsets",
+     "dataGUOffsets dbgGUOffsets Picture1 btnOffsetEdit btnDelGU lblUpGU lblDownGU"},
     {"frmtblMissions",
-     "lblType lblSummary lblObjective lblDate lblTime lblReqd lblClouds lblWind lblVis lblAlly "
+     "datPrimaryRS grdDataGrid lblType lblSummary lblObjective lblDate lblTime lblReqd lblClouds "
+     "lblWind lblVis lblAlly "
      "optAllegiance(0..3) cmdLoad btnDelete cmdClose"},
     {"frmMsgScreen", "lblMessage"},
     {"frmSplash", "picSplash Timer1 lblVersion"},
@@ -206,6 +210,38 @@ TEST(Forms, FixedRowsCarryTheirItemData) {
     check(forms.aircraft, "theFamList", {{"Fighter", 1}, {"Bomber", 2}, {"Other", 3}});
     check(forms.aircraft, "theAllyList", {{"RAF", 1}, {"Luftwaffe", 2}, {"USAAF", 3}});
     check(forms.grndNames, "theDamageList", {{"None", 0}, {"Smoke", 1}, {"Fire", 2}});
+}
+
+// Each column as "caption=field", joined by "|".
+std::string ColumnsOf(const DataGrid& grid) {
+    std::string text;
+    for (int c = 0; c < grid.ColumnCount(); ++c) {
+        if (c > 0) text += "|";
+        text += grid.Columns(c).Caption() + "=" + grid.Columns(c).DataField();
+    }
+    return text;
+}
+
+TEST(Forms, GridsAreBoundWithTheirColumns) {
+    AllForms forms;
+    EXPECT_EQ(forms.aircraft.grdDataGrid.Source(), &forms.aircraft.datPrimaryRS);
+    EXPECT_EQ(ColumnsOf(forms.aircraft.grdDataGrid),
+              "A/C ID=AcID|A/C Filename=ShortName|Descriptive Name=LongName|Family=UnitRole|"
+              "F. ID=Family|Allegiance=AirforceName|A. ID=Allegiance|Gun=Gun|Cannon=Cannon|"
+              "Rockets=Rockets|Bombs=Bombs");
+    EXPECT_EQ(forms.grndNames.grdDataGrid.Source(), &forms.grndNames.datSecondaryRS);
+    EXPECT_EQ(ColumnsOf(forms.grndNames.grdDataGrid),
+              "Descriptive Name=FullName|ID=ID|UnitType=UnitType|Points=Points|Heading=Heading|"
+              "XOffset=XOffset|YOffset=YOffset|Damage=Damage|DamageID=DamageID");
+    EXPECT_EQ(forms.offsets.dbgGUOffsets.Source(), &forms.offsets.dataGUOffsets);
+    EXPECT_EQ(ColumnsOf(forms.offsets.dbgGUOffsets),
+              "ID=ID|Unit Name=FullName|XOffset=XOffset|YOffset=YOffset|Lat Mtr.=Expr1|"
+              "Lon Mtr.=Expr2|Dmg=DamageID");
+    // The browser's columns are the query's fields in order; Filename is column 13.
+    EXPECT_EQ(forms.missions.grdDataGrid.Source(), &forms.missions.datPrimaryRS);
+    ASSERT_EQ(forms.missions.grdDataGrid.ColumnCount(), 14);
+    EXPECT_EQ(forms.missions.grdDataGrid.Columns(12).DataField(), "Allegiance");
+    EXPECT_EQ(forms.missions.grdDataGrid.Columns(13).DataField(), "Filename");
 }
 
 struct MenuRow {

@@ -10,10 +10,17 @@
 #include <vector>
 
 #include "shell/controls/controls.h"
+#include "shell/controls/data_grid.h"
 
 namespace tarvex {
 
 class Editor;
+
+// A column of a bound grid: its heading and the field behind it.
+struct FixedColumn {
+    const char* caption;
+    const char* dataField;
+};
 
 // A fixed row of a list or combo: its text and its item data.
 struct FixedRow {
@@ -23,7 +30,8 @@ struct FixedRow {
 
 class Form : public CaptionControl {
   public:
-    explicit Form(std::string name) : CaptionControl(std::move(name)) {}
+    // A form starts hidden: showing it is the business of whoever opens it.
+    explicit Form(std::string name) : CaptionControl(std::move(name)) { SetVisible(false); }
 
     // The component of that name, compared without regard to case, and index (-1 for one that
     // stands alone, the element's index for a control array). nullptr when there is none.
@@ -67,6 +75,11 @@ class Form : public CaptionControl {
     // Rows whose item data is the row number.
     static void AddRows(ListControl& list, std::initializer_list<const char*> texts);
     static void AddRows(ListControl& list, std::initializer_list<FixedRow> rows);
+    template <size_t N>
+    static void AddColumns(DataGrid& grid, const FixedColumn (&columns)[N]) {
+        for (const FixedColumn& column : columns)
+            grid.AddColumn(column.caption, column.dataField);
+    }
 
   private:
     struct Registered {

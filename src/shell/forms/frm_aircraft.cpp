@@ -6,6 +6,28 @@ frmAircraft::frmAircraft(Editor& ed) : Form("frmAircraft"), ed(ed) {
     SetCaption("Aircrafts");
     Move(0, 0, 9288, 6336);
 
+    Add(datPrimaryRS, "datPrimaryRS").SetRecordSource("qryAllMovingUnits");
+    datPrimaryRS.SetVisible(false);
+    Add(grdDataGrid, "grdDataGrid").SetDataSource(datPrimaryRS);
+    // The cell buttons of Family and Allegiance open the pick lists; the id columns behind
+    // them hold what the lists pick.
+    const FixedColumn columns[] = {
+        {"A/C ID", "AcID"},
+        {"A/C Filename", "ShortName"},
+        {"Descriptive Name", "LongName"},
+        {"Family", "UnitRole"},
+        {"F. ID", "Family"},
+        {"Allegiance", "AirforceName"},
+        {"A. ID", "Allegiance"},
+        {"Gun", "Gun"},
+        {"Cannon", "Cannon"},
+        {"Rockets", "Rockets"},
+        {"Bombs", "Bombs"},
+    };
+    AddColumns(grdDataGrid, columns);
+    grdDataGrid.Columns(3).SetButton(true);
+    grdDataGrid.Columns(5).SetButton(true);
+
     Add(picButtons, "picButtons");
     Add(cmdAdd, "cmdAdd").SetCaption("&Add");
     Add(cmdDelete, "cmdDelete").SetCaption("&Delete");

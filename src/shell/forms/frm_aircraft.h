@@ -1,6 +1,8 @@
 #pragma once
 // The records of the Aircraft table: a grid, two filter combos, the buttons, and the pick lists
 // laid over the grid's Family and Allegiance cells.
+#include "shell/controls/data_grid.h"
+#include "shell/controls/data_source.h"
 #include "shell/forms/form.h"
 
 namespace tarvex {
@@ -11,8 +13,8 @@ class frmAircraft : public Form {
 
     Editor& ed;
 
-    // TODO(forms): datPrimaryRS (data source) and grdDataGrid (bound grid) once the grid
-    // models exist.
+    DataSource datPrimaryRS;
+    DataGrid grdDataGrid;
     PictureSurface picButtons;
     CommandButton cmdAdd;
     CommandButton cmdDelete;

@@ -7,6 +7,21 @@ frmGrndNames::frmGrndNames(Editor& ed) : Form("frmGrndNames"), ed(ed) {
     // Centred on the main window at load.
     Move(0, 1, 7336, 6300);
 
+    Add(datPrimaryRS, "datPrimaryRS").SetVisible(false);
+    Add(datSecondaryRS, "datSecondaryRS").SetVisible(false);
+    Add(grdDataGrid, "grdDataGrid").SetDataSource(datSecondaryRS);
+    // The cell buttons of UnitType and Damage open the drop-down lists.
+    const FixedColumn columns[] = {
+        {"Descriptive Name", "FullName"}, {"ID", "ID"},
+        {"UnitType", "UnitType"},         {"Points", "Points"},
+        {"Heading", "Heading"},           {"XOffset", "XOffset"},
+        {"YOffset", "YOffset"},           {"Damage", "Damage"},
+        {"DamageID", "DamageID"},
+    };
+    AddColumns(grdDataGrid, columns);
+    grdDataGrid.Columns(2).SetButton(true);
+    grdDataGrid.Columns(7).SetButton(true);
+
     Add(fraLayoutView, "fraLayoutView");
     // Editable: typing a new text is how a layout is renamed.
     Add(cmbGULayoutName, "cmbGULayoutName");

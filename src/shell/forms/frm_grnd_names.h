@@ -1,6 +1,8 @@
 #pragma once
 // The records of the ground layouts: a layout picked in a combo, the entry of a new one, and a
 // grid of its units with drop-down lists laid over the type and damage cells.
+#include "shell/controls/data_grid.h"
+#include "shell/controls/data_source.h"
 #include "shell/forms/form.h"
 
 namespace tarvex {
@@ -11,8 +13,10 @@ class frmGrndNames : public Form {
 
     Editor& ed;
 
-    // TODO(forms): datPrimaryRS, datSecondaryRS (data sources) and grdDataGrid (bound grid)
-    // once the grid models exist.
+    // The layout, and its units.
+    DataSource datPrimaryRS;
+    DataSource datSecondaryRS;
+    DataGrid grdDataGrid;
     Frame fraLayoutView;
     ComboBox cmbGULayoutName;
     // Shows the layout's ID.

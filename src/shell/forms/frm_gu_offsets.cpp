@@ -6,6 +6,18 @@ frmGUOffsets::frmGUOffsets(Editor& ed) : Form("frmGUOffsets"), ed(ed) {
     // The load replaces it with the layout's name.
     SetCaption("Ground Units Offsets");
 
+    Add(dataGUOffsets, "dataGUOffsets").SetVisible(false);
+    // Units are added on the map, not in the grid. Columns 4 and 5 carry the offsets in
+    // metres or feet, shown with one decimal; their headings are set at load.
+    Add(dbgGUOffsets, "dbgGUOffsets").SetDataSource(dataGUOffsets);
+    dbgGUOffsets.SetAllowAddNew(false);
+    const FixedColumn columns[] = {
+        {"ID", "ID"},           {"Unit Name", "FullName"}, {"XOffset", "XOffset"},
+        {"YOffset", "YOffset"}, {"Lat Mtr.", "Expr1"},     {"Lon Mtr.", "Expr2"},
+        {"Dmg", "DamageID"},
+    };
+    AddColumns(dbgGUOffsets, columns);
+
     Add(Picture1, "Picture1");
     Add(btnOffsetEdit, "btnOffsetEdit");
     btnOffsetEdit.SetMin(-65535);

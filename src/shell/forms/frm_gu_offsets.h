@@ -1,6 +1,8 @@
 #pragma once
 // The offsets window: the units of the layout in the editor, one row each, with the spin
 // control that nudges the selected unit.
+#include "shell/controls/data_grid.h"
+#include "shell/controls/data_source.h"
 #include "shell/forms/form.h"
 
 namespace tarvex {
@@ -11,8 +13,8 @@ class frmGUOffsets : public Form {
 
     Editor& ed;
 
-    // TODO(forms): dataGUOffsets (data source) and dbgGUOffsets (bound grid) once the grid
-    // models exist.
+    DataSource dataGUOffsets;
+    DataGrid dbgGUOffsets;
     PictureSurface Picture1;
     UpDown btnOffsetEdit;
     CommandButton btnDelGU;

@@ -102,6 +102,8 @@ FrmMission::FrmMission(Editor& ed)
                              {"German Train for TM's", 7056}});
     Add(lblDirective, "lblDirective").SetCaption("Directive");
     Add(cmbDirective, "cmbDirective").SetStyle(kComboDropDownList);
+    // The colour its blink comes back to.
+    cmbDirective.SetBackColor(Rgb(224, 224, 224));
     AddRows(cmbDirective,
             {"None", "Enemy Fighters", "Enemy Bombers", "Enemy Vehicles", "Enemy Buildings"});
     Add(lblTOandLand, "lblTOandLand").SetCaption("Takeoff / Land");

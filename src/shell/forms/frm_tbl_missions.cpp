@@ -7,6 +7,31 @@ frmtblMissions::frmtblMissions(Editor& ed)
     SetCaption("Missions Summary");
     Move(0, 0, 9300, 6340);
 
+    Add(datPrimaryRS, "datPrimaryRS");
+    Add(grdDataGrid, "grdDataGrid").SetDataSource(datPrimaryRS);
+    grdDataGrid.SetAllowAddNew(false);
+    const FixedColumn columns[] = {
+        {"MissionID", "MissionID"},
+        {"Title", "Title"},
+        {"Type", "Type"},
+        {"Summary", "Summary"},
+        {"Objective", "Objective"},
+        {"Date", "Date"},
+        {"Time", "Time"},
+        {"Reqrd", "Reqrd"},
+        {"Clouds", "Clouds"},
+        {"Wind", "Wind"},
+        {"Visibility", "Visibility"},
+        {"Map", "Map"},
+        {"Allegiance", "Allegiance"},
+        {"Filename", "Filename"},
+    };
+    AddColumns(grdDataGrid, columns);
+    // The grid shows the id, the title and the map; the labels beside it and the status
+    // strip show the rest of the selected row.
+    for (int col = 0; col < grdDataGrid.ColumnCount(); ++col)
+        grdDataGrid.Columns(col).SetVisible(col == 0 || col == 1 || col == 11);
+
     Add(lblType, "lblType");
     Add(lblSummary, "lblSummary");
     Add(lblObjective, "lblObjective");

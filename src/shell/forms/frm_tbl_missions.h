@@ -1,6 +1,8 @@
 #pragma once
 // The browser over the mission summaries: a grid, the details of the selected mission, the
 // allegiance filter and the open and delete actions.
+#include "shell/controls/data_grid.h"
+#include "shell/controls/data_source.h"
 #include "shell/forms/form.h"
 
 namespace tarvex {
@@ -11,8 +13,8 @@ class frmtblMissions : public Form {
 
     Editor& ed;
 
-    // TODO(forms): datPrimaryRS (data source) and grdDataGrid (bound grid) once the grid
-    // models exist.
+    DataSource datPrimaryRS;
+    DataGrid grdDataGrid;
     Label lblType;
     Label lblSummary;
     Label lblObjective;
