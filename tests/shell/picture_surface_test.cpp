@@ -71,9 +71,13 @@ TEST(PictureSurfaceTest, LoadTakesTheBitmapSizeAndAFailureKeepsTheOldOne) {
     EXPECT_FLOAT_EQ(map.ScaleWidth(), 9600);
     EXPECT_FLOAT_EQ(map.ScaleHeight(), 7200);
 
+    map.Circle(10, 10, 48);
     EXPECT_FALSE(map.LoadPicture((dir / "tarvex_no_such_map.bmp").string()));
     EXPECT_EQ(map.Picture(), good);
     EXPECT_FLOAT_EQ(map.ScaleWidth(), 9600);
+    EXPECT_EQ(map.Operations().size(), 1u);
+    ASSERT_TRUE(map.LoadPicture(good));
+    EXPECT_TRUE(map.Operations().empty());
     std::filesystem::remove(good);
 }
 

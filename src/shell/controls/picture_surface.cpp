@@ -20,6 +20,8 @@ bool PictureSurface::LoadPicture(const std::string& path) {
     }
     const auto info = ReadBmpHeader(path);
     if (!info) return false;
+    // A new bitmap replaces what was drawn over the old one.
+    operations_.clear();
     picture_ = path;
     pictureWidthPixels_ = info->widthPixels;
     pictureHeightPixels_ = info->heightPixels;

@@ -33,8 +33,9 @@ class PictureSurface : public Control {
   public:
     using Control::Control;
 
-    // Loads a bitmap and takes its size. A missing or unreadable bitmap leaves the surface
-    // as it was and answers false. The empty path removes the picture (size kept).
+    // Loads a bitmap, takes its size and drops the drawing. A missing or unreadable bitmap
+    // leaves the surface as it was and answers false. The empty path removes the picture
+    // (size and drawing kept).
     bool LoadPicture(const std::string& path);
     const std::string& Picture() const { return picture_; }
     // The bitmap's size in pixels, 0 when there is none.
