@@ -154,3 +154,22 @@ TEST_F(DataGridTest, RowSelectionByBookmarksRaisesSelChangeOnEveryPress) {
 
 }  // namespace
 }  // namespace tarvex
+
+namespace tarvex {
+namespace {
+
+// Forms may declare the grid before its source, so the source is destroyed first.
+TEST(DataGridBindingTest, AGridOutlivingItsSourceLetsGo) {
+    DataGrid grid("dbgGUOffsets");
+    {
+        DataSource source("dataGUOffsets");
+        grid.SetDataSource(source);
+        EXPECT_EQ(grid.Source(), &source);
+    }
+    EXPECT_EQ(grid.Source(), nullptr);
+    EXPECT_EQ(grid.Row(), -1);
+    EXPECT_EQ(grid.RowCount(), 0);
+}
+
+}  // namespace
+}  // namespace tarvex

@@ -82,12 +82,13 @@ void GridColumn::SetValue(const FieldValue& value) {
 DataGrid::DataGrid(std::string name, int index) : Control(std::move(name), index) {}
 
 DataGrid::~DataGrid() {
-    if (source_ != nullptr) source_->RemoveListener(sourceListener_);
+    if (Source() != nullptr) source_->RemoveListener(sourceListener_);
 }
 
 void DataGrid::SetDataSource(DataSource& source) {
-    if (source_ != nullptr) source_->RemoveListener(sourceListener_);
+    if (Source() != nullptr) source_->RemoveListener(sourceListener_);
     source_ = &source;
+    sourceLifetime_ = source.Lifetime();
     sourceListener_ = source.AddListener([this](Aspect aspect) { SourceChanged(aspect); });
     ReadRows();
 }
@@ -103,7 +104,7 @@ void DataGrid::SourceChanged(Aspect aspect) {
 }
 
 Recordset* DataGrid::OpenRecordset() const {
-    if (source_ == nullptr || !source_->HasRecordset()) return nullptr;
+    if (Source() == nullptr || !source_->HasRecordset()) return nullptr;
     return &source_->Recordset();
 }
 
@@ -166,7 +167,7 @@ int DataGrid::Row() const {
 }
 
 void DataGrid::SetRow(int row) {
-    if (source_ == nullptr) Raise(91, "Object variable or With block variable not set");
+    if (Source() == nullptr) Raise(91, "Object variable or With block variable not set");
     Recordset& rs = source_->Recordset();
     const int count = rs.RecordCount();
     if (row < 0 || row > count || (row == count && !allowAddNew_)) Raise(kErrInvalidProperty);
@@ -207,7 +208,7 @@ FieldValue DataGrid::CurrentValue(int col) const {
 }
 
 void DataGrid::AssignCurrent(int col, const FieldValue& value) {
-    if (source_ == nullptr) Raise(91, "Object variable or With block variable not set");
+    if (Source() == nullptr) Raise(91, "Object variable or With block variable not set");
     Recordset& rs = source_->Recordset();
     const int field = FieldIndex(Columns(col).DataField());
     if (field < 0) Raise(kErrItemNotFound, "Item not found in this collection.");
@@ -382,7 +383,7 @@ void DataGrid::UserMoveTo(int row, int col) {
         if (row != Row()) SetRow(row);
         SetCol(col);
     } catch (const AppError& error) {
-        if (source_ == nullptr) throw;
+        if (Source() == nullptr) throw;
         source_->ReportUserError(error);
     }
 }
@@ -402,7 +403,7 @@ void DataGrid::UserEditCell(const std::string& text) {
         currentCellModified_ = false;
         Notify(Aspect::Rows);
     } catch (const AppError& error) {
-        if (source_ == nullptr) throw;
+        if (Source() == nullptr) throw;
         source_->ReportUserError(error);
     }
 }

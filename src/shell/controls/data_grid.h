@@ -70,7 +70,7 @@ class DataGrid : public Control {
 
     // Binds the grid; the grid follows the source's refreshes from then on.
     void SetDataSource(DataSource& source);
-    DataSource* Source() const { return source_; }
+    DataSource* Source() const { return sourceLifetime_.expired() ? nullptr : source_; }
 
     // Columns: defined by the form, or one per field when none are defined at a refresh.
     GridColumn& AddColumn(const std::string& caption, const std::string& dataField);
@@ -153,6 +153,7 @@ class DataGrid : public Control {
     void ColumnsChanged() { Notify(Aspect::Rows); }
 
     DataSource* source_ = nullptr;
+    std::weak_ptr<int> sourceLifetime_;
     int sourceListener_ = 0;
     std::vector<std::unique_ptr<GridColumn>> columns_;
     bool autoColumns_ = false;

@@ -6,6 +6,7 @@
 // started (a grid storing the row it leaves) go to the Error event instead; with no handler,
 // or a handler that leaves `response` at kDataErrDisplay, they are raised all the same.
 #include <functional>
+#include <memory>
 #include <string>
 
 #include "refdata/database.h"
@@ -67,6 +68,9 @@ class DataSource : public CaptionControl {
     void RowsChanged() { Notify(Aspect::Rows); }
     void RaiseReposition();
 
+    // Expires when the source is destroyed, so a bound grid that outlives it lets go safely.
+    std::weak_ptr<int> Lifetime() const { return lifetime_; }
+
     std::function<void(int& action, int& save)> Validate;
     std::function<void()> Reposition;
     std::function<void(int dataErr, int& response)> Error;
@@ -80,6 +84,7 @@ class DataSource : public CaptionControl {
     std::string openedName_;
     Database database_;
     tarvex::Recordset recordset_;
+    std::shared_ptr<int> lifetime_ = std::make_shared<int>(0);
 };
 
 }  // namespace tarvex
