@@ -1,0 +1,39 @@
+#include <cstdio>
+#include <string>
+
+#include "document/mission_reset.h"
+#include "shell/editor.h"
+#include "shell/program_version.h"
+
+namespace tarvex {
+
+namespace {
+
+std::string TwoDigits(int n) {
+    char text[16];
+    std::snprintf(text, sizeof text, "%02d", n);
+    return text;
+}
+
+}  // namespace
+
+void SetSummaryDefaults(Editor& ed) {
+    auto& frm = ed.FrmMission;
+    const DateTime now = ed.svc.clock.Now();
+
+    frm.txtTitle.SetText(ed.options.DefName + "'s Mission");
+    frm.txtSummary.SetText("This Mission was created with Tarvex Mission Editor Version " +
+                           ProgramVersionText() + " by: Bram Oskett");
+    frm.txtObjective.SetText("2 d bug ME");
+    frm.txtType.SetText("Sortak");
+    frm.txtTip.SetText("Stay Alive");
+    frm.txtPctReqd.SetText("50");
+    frm.txtTime.SetText(TwoDigits(now.hour) + ":" + TwoDigits(now.minute));
+    // Month first and padded; the last two digits of the year become 40.
+    std::string date =
+        TwoDigits(now.month) + "/" + TwoDigits(now.day) + "/" + std::to_string(now.year);
+    date.replace(date.size() - 2, 2, "40");
+    frm.txtDate.SetText(date);
+}
+
+}  // namespace tarvex

@@ -1,0 +1,22 @@
+#include "shell/editor.h"
+
+namespace tarvex {
+
+Editor::Editor(Services services)
+    : svc(services),
+      MDIMissionED(*this),
+      FrmMission(*this),
+      frmNewRecord(*this),
+      frmAircraft(*this),
+      frmGrndNames(*this),
+      frmGUOffsets(*this),
+      frmtblMissions(*this),
+      frmMsgScreen(*this),
+      frmSplash(*this),
+      frmAbout(*this) {}
+
+Editor::~Editor() {
+    db.CloseReferenceDatabase();
+}
+
+}  // namespace tarvex
