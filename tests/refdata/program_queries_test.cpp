@@ -5,7 +5,7 @@
 #include "common/error.h"
 #include "common/text.h"
 #include "refdata/database.h"
-#include "test_database.h"
+#include "support/reference_folder.h"
 
 namespace tarvex {
 namespace {

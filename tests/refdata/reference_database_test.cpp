@@ -8,7 +8,7 @@
 
 #include "shell/controls/item_list.h"
 #include "shell/scripted_platform.h"
-#include "test_database.h"
+#include "support/reference_folder.h"
 
 namespace tarvex {
 namespace {

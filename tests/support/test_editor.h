@@ -1,9 +1,12 @@
 #pragma once
 // A fresh Editor on scripted desktop services, for tests that drive whole forms.
+#include <filesystem>
 #include <memory>
+#include <system_error>
 
 #include "shell/editor.h"
 #include "shell/scripted_platform.h"
+#include "support/reference_folder.h"
 
 namespace tarvex::testing {
 
@@ -25,6 +28,25 @@ struct TestEditor {
             std::make_unique<Editor>(Services{dialogs, sound, settings, registry, instance, clock});
         return *editor;
     }
+
+    ~TestEditor() {
+        editor.reset();
+        if (!folder.empty()) {
+            std::error_code ignored;
+            std::filesystem::remove_all(folder, ignored);
+        }
+    }
+
+    // Opens a fresh copy of the default reference database in a folder of this test.
+    Editor& OpenDatabase() {
+        folder = MakeTestFolder("editor");
+        editor->db.DBPath = (folder / "Tarvex Missions.mdb").string();
+        CopyDefaultDatabase(editor->db.DBPath);
+        editor->db.theDB.Open(editor->db.DBPath);
+        return *editor;
+    }
+
+    std::filesystem::path folder;
 
     Editor& operator*() { return *editor; }
     Editor* operator->() { return editor.get(); }

@@ -15,6 +15,13 @@ std::string ReadTextFile(const std::filesystem::path& file);
 std::string SchemaSql();
 std::string SeedSql();
 
+// A new empty folder under the system's temporary folder, named after the running test.
+std::filesystem::path MakeTestFolder(const std::string& purpose);
+
+// Puts a copy of the default reference database (built once per test program from the
+// schema and seed scripts) at `file`.
+void CopyDefaultDatabase(const std::filesystem::path& file);
+
 class ReferenceFolderTest : public ::testing::Test {
   protected:
     void SetUp() override;

@@ -1,4 +1,4 @@
-#include "test_database.h"
+#include "support/reference_folder.h"
 
 #include <sqlite3.h>
 #include <unistd.h>
@@ -43,15 +43,35 @@ void BuildDatabaseFile(const fs::path& file, const std::string& sql) {
     ASSERT_EQ(rc, SQLITE_OK) << error;
 }
 
-void ReferenceFolderTest::SetUp() {
+fs::path MakeTestFolder(const std::string& purpose) {
     static int counter = 0;
     const auto* info = ::testing::UnitTest::GetInstance()->current_test_info();
-    folder = fs::temp_directory_path() / ("tarvex-refdata-" + std::to_string(getpid()) + "-" +
-                                          std::to_string(++counter) + "-" + info->name());
+    const std::string name = info ? info->name() : "setup";
+    fs::path folder =
+        fs::temp_directory_path() / ("tarvex-" + purpose + "-" + std::to_string(getpid()) + "-" +
+                                     std::to_string(++counter) + "-" + name);
     fs::remove_all(folder);
     fs::create_directories(folder);
+    return folder;
+}
+
+void CopyDefaultDatabase(const fs::path& file) {
+    static const fs::path built = [] {
+        const fs::path folder =
+            fs::temp_directory_path() / ("tarvex-default-db-" + std::to_string(getpid()));
+        fs::create_directories(folder);
+        const fs::path path = folder / "Tarvex Missions.mdb";
+        fs::remove(path);
+        BuildDatabaseFile(path, SchemaSql() + "\n" + SeedSql());
+        return path;
+    }();
+    fs::copy_file(built, file, fs::copy_options::overwrite_existing);
+}
+
+void ReferenceFolderTest::SetUp() {
+    folder = MakeTestFolder("refdata");
     dbPath = (folder / "Tarvex Missions.mdb").string();
-    BuildDatabaseFile(dbPath, SchemaSql() + "\n" + SeedSql());
+    CopyDefaultDatabase(dbPath);
 }
 
 void ReferenceFolderTest::TearDown() {
