@@ -40,6 +40,8 @@ class DataGridTest : public ::testing::Test {
         grid.AddColumn("Points", "Points");
     }
     void TearDown() override {
+        // The handlers captured the test body's locals, which are gone by now.
+        source.Validate = nullptr;
         source.Close();
         std::filesystem::remove(path_);
     }
