@@ -87,6 +87,20 @@ TEST_F(DataGridTest, NewRowStartsARecordOnTheFirstValueAndUpdateRecordFilesIt) {
     EXPECT_FALSE(grid.DataChanged());
 }
 
+TEST_F(DataGridTest, DownFromTheLastRecordReachesTheNewRowUnlessSwallowed) {
+    source.Refresh();
+    source.Recordset().MoveLast();
+    grid.UserKeyDown(kKeyDown, 0);
+    EXPECT_TRUE(grid.OnNewRow());
+    EXPECT_EQ(source.Recordset().AbsolutePosition(), -1);
+    grid.UserKeyDown(kKeyDown, 0);
+    EXPECT_EQ(grid.Row(), 3);
+
+    grid.KeyDown = [](int& keyCode, int) { keyCode = 0; };
+    grid.UserKeyDown(kKeyUp, 0);
+    EXPECT_EQ(grid.Row(), 3);
+}
+
 TEST_F(DataGridTest, LeavingAChangedRowStoresItBeforeTheMove) {
     source.Refresh();
     std::vector<std::string> events;

@@ -63,6 +63,19 @@ constexpr int kShiftMask = 1;
 constexpr int kCtrlMask = 2;
 constexpr int kAltMask = 4;
 
+// Key codes of the keys the forms test for.
+constexpr int kKeyBack = 8;
+constexpr int kKeyTab = 9;
+constexpr int kKeyReturn = 13;
+constexpr int kKeyShift = 16;
+constexpr int kKeyControl = 17;
+constexpr int kKeyEscape = 27;
+constexpr int kKeyLeft = 37;
+constexpr int kKeyUp = 38;
+constexpr int kKeyRight = 39;
+constexpr int kKeyDown = 40;
+constexpr int kKeyDelete = 46;
+
 // Drop effects of a drag over a control.
 constexpr int kDropEffectNone = 0;
 constexpr int kDropEffectCopy = 1;

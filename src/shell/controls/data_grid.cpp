@@ -408,6 +408,28 @@ void DataGrid::UserEditCell(const std::string& text) {
     }
 }
 
+void DataGrid::UserKeyDown(int keyCode, int shift) {
+    keyCode = RaiseKeyDown(keyCode, shift);
+    const int row = Row();
+    const int lastRow = RowCount() - (allowAddNew_ ? 0 : 1);
+    switch (keyCode) {
+        case kKeyDown:
+            if (row < lastRow) UserMoveTo(row + 1, col_);
+            break;
+        case kKeyUp:
+            if (row > 0) UserMoveTo(row - 1, col_);
+            break;
+        case kKeyLeft:
+            if (col_ > 0) UserMoveTo(row, col_ - 1);
+            break;
+        case kKeyRight:
+            if (col_ + 1 < ColumnCount()) UserMoveTo(row, col_ + 1);
+            break;
+        default:
+            break;
+    }
+}
+
 void DataGrid::UserSelectRow(int row, bool addToSelection) {
     UserMoveTo(row, col_);
     Recordset* rs = OpenRecordset();

@@ -124,6 +124,9 @@ class DataGrid : public Control {
     void UserMoveTo(int row, int col);
     void UserEditCell(const std::string& text);
     void UserSelectRow(int row, bool addToSelection);
+    // A key pressed in the grid: KeyDown first; unless a handler swallowed it, the arrow keys
+    // move the current cell (Down from the last record reaches the new row).
+    void UserKeyDown(int keyCode, int shift);
     void UserHeadClick(int col) const {
         if (HeadClick) HeadClick(col);
     }
