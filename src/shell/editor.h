@@ -56,6 +56,9 @@ class Editor {
     PictureSurface* ActiveMap = nullptr;
     ListBox* ActivePointList = nullptr;
 
+    // The SELECT of the aircraft filter, without its ORDER BY.
+    std::string ACQuery = "SELECT ShortName,ACId FROM Aircraft";
+
     AppSettings options;
     ReferenceDatabase db;
 
