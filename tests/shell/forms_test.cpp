@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <cstddef>
 #include <memory>
 #include <set>
 #include <sstream>
@@ -18,28 +17,24 @@
 #include "shell/forms/frm_splash.h"
 #include "shell/forms/frm_tbl_missions.h"
 #include "shell/forms/mdi_mission_ed.h"
+#include "support/test_editor.h"
 
 namespace tarvex {
 namespace {
 
-// The constructors only keep the reference, so storage of the right alignment stands in for
-// the editor here.
-Editor& NoEditor() {
-    alignas(std::max_align_t) static unsigned char storage[64];
-    return *reinterpret_cast<Editor*>(storage);
-}
-
+// The forms of a fresh editor.
 struct AllForms {
-    MDIMissionED mdi{NoEditor()};
-    FrmMission mission{NoEditor()};
-    frmNewRecord newRecord{NoEditor()};
-    frmAircraft aircraft{NoEditor()};
-    frmGrndNames grndNames{NoEditor()};
-    frmGUOffsets offsets{NoEditor()};
-    frmtblMissions missions{NoEditor()};
-    frmMsgScreen msgScreen{NoEditor()};
-    frmSplash splash{NoEditor()};
-    frmAbout about{NoEditor()};
+    testing::TestEditor t;
+    MDIMissionED& mdi = t->MDIMissionED;
+    FrmMission& mission = t->FrmMission;
+    frmNewRecord& newRecord = t->frmNewRecord;
+    frmAircraft& aircraft = t->frmAircraft;
+    frmGrndNames& grndNames = t->frmGrndNames;
+    frmGUOffsets& offsets = t->frmGUOffsets;
+    frmtblMissions& missions = t->frmtblMissions;
+    frmMsgScreen& msgScreen = t->frmMsgScreen;
+    frmSplash& splash = t->frmSplash;
+    frmAbout& about = t->frmAbout;
 
     std::vector<Form*> All() {
         return {&mdi,     &mission,  &newRecord, &aircraft, &grndNames,
@@ -318,9 +313,9 @@ void Flatten(const std::vector<MenuItem*>& items, const std::string& parent,
 }
 
 TEST(Forms, MenuTreeHasItsEntriesInOrder) {
-    MDIMissionED mdi(NoEditor());
+    AllForms forms;
     std::vector<std::pair<std::string, MenuItem*>> flat;
-    Flatten(mdi.MenuBar(), "", flat);
+    Flatten(forms.mdi.MenuBar(), "", flat);
     ASSERT_EQ(flat.size(), kMenuTree.size());
     for (size_t i = 0; i < flat.size(); ++i) {
         const MenuRow& want = kMenuTree[i];
@@ -334,8 +329,8 @@ TEST(Forms, MenuTreeHasItsEntriesInOrder) {
         EXPECT_EQ(item.Enabled(), want.enabled) << want.entry;
         EXPECT_EQ(item.Visible(), want.visible) << want.entry;
     }
-    EXPECT_TRUE(mdi.mnuDist.Checked());
-    EXPECT_TRUE(mdi.mnuACListNorm.Checked());
+    EXPECT_TRUE(forms.mdi.mnuDist.Checked());
+    EXPECT_TRUE(forms.mdi.mnuACListNorm.Checked());
 }
 
 }  // namespace
