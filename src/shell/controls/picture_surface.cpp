@@ -58,22 +58,10 @@ void PictureSurface::Circle(float x, float y, float radius, Colour colour) {
     Record(std::move(op));
 }
 
-void PictureSurface::Line(float x1, float y1, float x2, float y2, Colour colour) {
+void PictureSurface::RecordSpan(DrawKind kind, float x1, float y1, float x2, float y2,
+                                Colour colour, bool filled) {
     DrawOp op;
-    op.kind = DrawKind::Line;
-    op.x1 = x1;
-    op.y1 = y1;
-    op.x2 = x2;
-    op.y2 = y2;
-    op.pen = colour < 0 ? ForeColor() : colour;
-    currentX_ = x2;
-    currentY_ = y2;
-    Record(std::move(op));
-}
-
-void PictureSurface::Box(float x1, float y1, float x2, float y2, Colour colour, bool filled) {
-    DrawOp op;
-    op.kind = DrawKind::Box;
+    op.kind = kind;
     op.x1 = x1;
     op.y1 = y1;
     op.x2 = x2;
@@ -82,10 +70,19 @@ void PictureSurface::Box(float x1, float y1, float x2, float y2, Colour colour, 
     currentX_ = x2;
     currentY_ = y2;
     Record(op);
+    // A filled box is solid in its own pen colour, whatever the surface's fill.
     if (filled) {
         operations_.back().fillColor = op.pen;
         operations_.back().fillStyle = kFillSolid;
     }
+}
+
+void PictureSurface::Line(float x1, float y1, float x2, float y2, Colour colour) {
+    RecordSpan(DrawKind::Line, x1, y1, x2, y2, colour, false);
+}
+
+void PictureSurface::Box(float x1, float y1, float x2, float y2, Colour colour, bool filled) {
+    RecordSpan(DrawKind::Box, x1, y1, x2, y2, colour, filled);
 }
 
 void PictureSurface::Print(const std::string& text, bool newLine) {

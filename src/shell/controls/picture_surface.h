@@ -92,6 +92,9 @@ class PictureSurface : public Control {
 
   private:
     void Record(DrawOp op);
+    // A line or box from (x1, y1) to (x2, y2); the drawing position moves to the second point.
+    void RecordSpan(DrawKind kind, float x1, float y1, float x2, float y2, Colour colour,
+                    bool filled);
 
     std::string picture_;
     int pictureWidthPixels_ = 0;
