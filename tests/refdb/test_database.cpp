@@ -1,34 +1,13 @@
 #include "test_database.h"
 
-#include <atomic>
 #include <fstream>
-#include <random>
 #include <sstream>
 
 #include "common/error.h"
+#include "support/reference_folder.h"
 
 namespace tarvex::testing {
 namespace {
-
-std::string ReadScript(const char* name) {
-    const auto path = std::filesystem::path(TARVEX_SOURCE_DIR) / "data" / "refdb" / name;
-    std::ifstream in(path, std::ios::binary);
-    if (!in) Raise(kErrFileNotFound, "cannot read " + path.string());
-    std::stringstream text;
-    text << in.rdbuf();
-    return text.str();
-}
-
-std::filesystem::path NewFolder() {
-    // Test programs may run side by side: a random tag keeps their folders apart.
-    static const unsigned tag = std::random_device{}();
-    static std::atomic<int> counter{0};
-    auto folder = std::filesystem::temp_directory_path() /
-                  ("tarvex-refdb-" + std::to_string(tag) + "-" + std::to_string(counter++));
-    std::filesystem::remove_all(folder);
-    std::filesystem::create_directories(folder);
-    return folder;
-}
 
 std::string ColumnText(sqlite3_stmt* stmt, int i) {
     if (sqlite3_column_type(stmt, i) == SQLITE_NULL) return "NULL";
@@ -37,14 +16,14 @@ std::string ColumnText(sqlite3_stmt* stmt, int i) {
 
 }  // namespace
 
-TestDatabase::TestDatabase() : folder_(NewFolder()) {
+TestDatabase::TestDatabase() : folder_(MakeTestFolder("refdb")) {
     const auto file = folder_ / "Tarvex Missions.mdb";
     if (sqlite3_open(file.string().c_str(), &db_) != SQLITE_OK) {
         Raise(kErrPathAccess, "cannot create " + file.string());
     }
     Exec("PRAGMA foreign_keys=ON;");
-    Exec(ReadScript("schema.sql"));
-    Exec(ReadScript("seed.sql"));
+    Exec(SchemaSql());
+    Exec(SeedSql());
 }
 
 TestDatabase::~TestDatabase() {
