@@ -1,5 +1,8 @@
 #include "shell/editor.h"
 
+#include "maps/map_drawing_wiring.h"
+#include "shell/main_window_wiring.h"
+
 namespace tarvex {
 
 Editor::Editor(Services services)
@@ -13,7 +16,10 @@ Editor::Editor(Services services)
       frmtblMissions(*this),
       frmMsgScreen(*this),
       frmSplash(*this),
-      frmAbout(*this) {}
+      frmAbout(*this) {
+    WireMapDrawing(*this);
+    WireMainWindow(*this);
+}
 
 Editor::~Editor() {
     db.CloseReferenceDatabase();

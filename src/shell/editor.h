@@ -5,8 +5,11 @@
 #include <string>
 
 #include "document/mission.h"
+#include "document/mission_loader_state.h"
+#include "document/saver_state.h"
 #include "document/unit_placement.h"
 #include "ground/layout_transform.h"
+#include "maps/map_drawing_state.h"
 #include "maps/map_projection.h"
 #include "refdata/reference_database.h"
 #include "shell/app_settings.h"
@@ -21,6 +24,7 @@
 #include "shell/forms/frm_tbl_missions.h"
 #include "shell/forms/mdi_mission_ed.h"
 #include "shell/platform.h"
+#include "shell/shell_state.h"
 
 namespace tarvex {
 
@@ -48,9 +52,12 @@ class Editor {
     UnitPlacement placement;
     LayoutTransform transform;
     MapProjection projection;
+    MapDrawingState drawing;
     // What the loader or the saver is doing, shown only in their error reports.
     std::string StepText;
     std::string StepDetail;
+    MissionLoaderState loader;
+    SaverState saver;
 
     // The map surface and point list that the waypoint and layout handlers work on.
     PictureSurface* ActiveMap = nullptr;
@@ -60,6 +67,7 @@ class Editor {
     std::string ACQuery = "SELECT ShortName,ACId FROM Aircraft";
 
     AppSettings options;
+    ShellState shell;
     ReferenceDatabase db;
 
     // The forms, named as the program knows them. The qualified type names keep each

@@ -1,0 +1,25 @@
+#include "maps/path_overlays.h"
+
+#include "maps/path_drawing.h"
+#include "shell/editor.h"
+
+namespace tarvex {
+
+void RefreshOverlayChecks(Editor& ed) {
+    for (int p = 0; p < Mission::kMaxPaths; ++p)
+        ed.FrmMission.chkOverlay(p).SetEnabled(ed.doc.PathPointCount(p) != 0);
+}
+
+void chkOverlay_Click(Editor& ed, int path) {
+    PictureSurface* map = ed.ActiveMap;
+    const bool checked = ed.FrmMission.chkOverlay(path).Value() == kChecked;
+    ed.drawing.OverlayOn = checked;
+    // The ground units map in placing mode carries its tag "False".
+    const bool onlyClear = !checked && map && map->Tag() == "False";
+    if (onlyClear) map->Cls();
+    if (!onlyClear && map) DrawPaths(ed, *map);
+    // TODO: DrawLayoutMarkers() here once the ground layouts of a mission can draw their
+    // markers; until then the cleared ground units map stays blank.
+}
+
+}  // namespace tarvex
