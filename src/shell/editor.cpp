@@ -1,7 +1,6 @@
 #include "shell/editor.h"
 
 #include "maps/map_drawing_wiring.h"
-#include "shell/main_window_wiring.h"
 
 namespace tarvex {
 
@@ -18,7 +17,6 @@ Editor::Editor(Services services)
       frmSplash(*this),
       frmAbout(*this) {
     WireMapDrawing(*this);
-    WireMainWindow(*this);
 }
 
 Editor::~Editor() {

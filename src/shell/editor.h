@@ -5,8 +5,6 @@
 #include <string>
 
 #include "document/mission.h"
-#include "document/mission_loader_state.h"
-#include "document/saver_state.h"
 #include "document/unit_placement.h"
 #include "ground/layout_transform.h"
 #include "maps/map_drawing_state.h"
@@ -24,7 +22,6 @@
 #include "shell/forms/frm_tbl_missions.h"
 #include "shell/forms/mdi_mission_ed.h"
 #include "shell/platform.h"
-#include "shell/shell_state.h"
 
 namespace tarvex {
 
@@ -56,8 +53,6 @@ class Editor {
     // What the loader or the saver is doing, shown only in their error reports.
     std::string StepText;
     std::string StepDetail;
-    MissionLoaderState loader;
-    SaverState saver;
 
     // The map surface and point list that the waypoint and layout handlers work on.
     PictureSurface* ActiveMap = nullptr;
@@ -67,7 +62,6 @@ class Editor {
     std::string ACQuery = "SELECT ShortName,ACId FROM Aircraft";
 
     AppSettings options;
-    ShellState shell;
     ReferenceDatabase db;
 
     // The forms, named as the program knows them. The qualified type names keep each
