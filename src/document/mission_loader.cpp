@@ -1,0 +1,207 @@
+#include "document/mission_loader.h"
+
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include "common/encoding.h"
+#include "common/error.h"
+#include "common/number_text.h"
+#include "common/paths.h"
+#include "document/mis_section_readers.h"
+#include "document/mis_text.h"
+#include "ground/ground_reconstruction.h"
+#include "maps/map_loading.h"
+#include "shell/editor.h"
+#include "shell/program_version.h"
+
+namespace tarvex {
+
+namespace {
+
+constexpr int kHourglass = 11;
+constexpr int kDefaultPointer = 0;
+
+// TODO: ShowMessageScreen once the main window has it.
+void ShowLoadMessage(Editor& ed, const std::string& text) {
+    ed.frmMsgScreen.lblMessage.SetCaption(text);
+    ed.frmMsgScreen.SetVisible(true);
+    ed.svc.clock.DoEvents();
+}
+
+void EndLoadMessage(Editor& ed) {
+    ed.MDIMissionED.SetMousePointer(kDefaultPointer);
+    ed.frmMsgScreen.SetVisible(false);
+}
+
+std::string ReadWholeFile(const std::string& path) {
+    std::ifstream in(path, std::ios::binary);
+    if (!in) Raise(kErrFileNotFound);
+    std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+    if (in.bad()) Raise(kErrPathAccess);
+    return bytes;
+}
+
+void StartLoadState(Editor& ed) {
+    MissionLoaderState& st = ed.loader;
+    st.NearestLayoutDist = 9999.0f;
+    st.PrevUnitID = 1999;
+    st.UnitSum = 0;
+    ed.placement.UnitLat.clear();
+    ed.placement.UnitLon.clear();
+    ed.placement.LayoutHeading = -1;
+    st.UnnamedCount = 0;
+    ed.StepText = "Opening Mission File";
+    ed.StepDetail.clear();
+    st.FileUnitID.Fill(0);
+}
+
+// The main loop: headers are found anywhere in a line, with regard to case, in a fixed order.
+void ReadSections(Editor& ed, MisLines& lines) {
+    MissionLoaderState& st = ed.loader;
+    std::int16_t unitId = 0;
+    std::int16_t typeId = 0;
+    std::string line;
+    auto begin = [&](const char* stepText) {
+        ed.StepText = stepText;
+        ed.StepDetail.clear();
+    };
+    while (!lines.AtEnd()) {
+        line = lines.Read();
+        if (line.find("[mission]") != std::string::npos) {
+            begin("Loading Summary Data");
+            ReadSummarySection(ed, lines, line);
+        } else if (line.find("[unit.") != std::string::npos) {
+            begin("Loading UnitData ");
+            ReadUnitSection(ed, lines, line, unitId, typeId);
+        } else if (line.find("[unit_type.") != std::string::npos) {
+            begin("Loading UnitType Data");
+            // The first unit type closes the last layout; nothing opens a new one.
+            if (st.PrevUnitID >= 2000 && st.PrevUnitID != unitId - 1)
+                MatchGroundLayout(ed, unitId, st.UnitSum, true);
+            st.PrevUnitID = 0;
+        } else if (line.find("[waypoint_path.") != std::string::npos) {
+            begin("Loading Waypoint ID ");
+            ReadWaypointPathSection(ed, lines, line);
+        } else if (line.find("[formation.") != std::string::npos) {
+            begin("Loading Formation ID ");
+            ReadFormationSection(ed, lines, line);
+        } else if (line.find("[runway.") != std::string::npos) {
+            begin("Loading Runway ID ");
+            ReadRunwaySection(ed, lines, line);
+        } else if (line.find("[strings]") != std::string::npos) {
+            begin("Loading String Data");
+            ReadStringsSection(ed, lines, line);
+        }
+    }
+}
+
+// The tabs from the arrays: path 0 in the waypoint list, the first rows selected.
+void RebuildTabs(Editor& ed) {
+    Mission& doc = ed.doc;
+    auto& frm = ed.FrmMission;
+
+    ed.StepText = "Loading Map for newly loaded data";
+    LoadMap(ed, frm.mapWayPoints, frm.cmbSelectMap.ListIndex());
+
+    frm.optColor(0).SetValue(true);
+    frm.lstPoints.Clear();
+    for (int i = 1; i < doc.PathPointCount(0); ++i)
+        frm.lstPoints.AddItem(Format(i, "##00") + ". " + doc.WPLat(0, i) + " " + doc.WPLon(0, i));
+
+    ed.StepText = "Selecting the landing airfield for this mission from the [Landing Runway Combo]";
+    frm.cmbEndAtRwy.SetListIndex(doc.GrpLandingRwy(0));
+    ed.StepText = "Selecting the takeoff airfield for this mission from the [Takeoff Runway Combo]";
+    frm.cmbStartAtRwy.SetListIndex(doc.GrpTakeoffRwy(0));
+
+    frm.lstPoints.SetEnabled(true);
+    ed.StepText = "Selecting the 1st Waypoint for this mission on the [Waypoints List]";
+    frm.lstPoints.SetListIndex(0);
+    // TODO: SetWaypointControlsEnabled(true) once the waypoint editor has it.
+
+    ed.StepText = "Selecting the 1st Ground Layout for this mission on the [Mission Units]";
+    if (frm.lstGUAdded.ListCount() > 0) frm.lstGUAdded.SetListIndex(0);
+
+    ed.StepText = "Selecting the 1st Group for this mission on the [Groups List]";
+    frm.lstGroupName.SetListIndex(0);
+
+    doc.NotLoading = true;
+    doc.PilotsAssigned = true;
+    ed.MDIMissionED.SetCaption("Tarvex Mission Editor: " + doc.MissionFile);
+    // TODO: RememberMission once the start-up module has it.
+    // TODO: ConvertSpeeds when ed.options.Measurement is off, once the main window has it:
+    // the file holds kilometres per hour.
+
+    ed.StepText = "Setting Map Combo";
+    frm.cmbGUMap.SetListIndex(frm.cmbSelectMap.ListIndex());
+
+    frm.btnGrpView.SetEnabled(true);
+    // The load may have added layouts.
+    ed.db.FillListFromQuery(
+        frm.lstGrnUnits, "SELECT LayoutName,ID FROM GrndNames WHERE GUType=1 ORDER BY LayoutName;");
+    for (int i = 0; i < Mission::kMaxPaths; ++i)
+        frm.optColor(i).SetEnabled(doc.PathPointCount(i) != 0);
+}
+
+void ReportLoadFailure(Editor& ed, int number, const std::string& description) {
+    EndLoadMessage(ed);
+    const std::string report = "While [*** " + ed.StepText + ed.StepDetail + " ***]\n" +
+                               "The following error occurred.\n" + description + " Error [" +
+                               IntText(number) + "]";
+    MessageBoxRequest box;
+    box.text = report;
+    box.title = ed.doc.MissionFile + " *** Load Mission File Error ***";
+    box.buttons = MsgButtons::OK;
+    box.icon = MsgIcon::Critical;
+    ed.svc.dialogs.MsgBox(box);
+    ed.db.theRS.Close();
+}
+
+}  // namespace
+
+int ChooseMissionToOpen(Editor& ed) {
+    Mission& doc = ed.doc;
+    CommonDialog& dlg = ed.FrmMission.CommonDialog1;
+    try {
+        dlg.CancelError = true;
+        dlg.DialogTitle = "Open Mission File";
+        dlg.Filter = "(*.mis)|*.mis";
+        dlg.InitDir = JoinPath(ed.options.SimPath, "missions");
+        dlg.FileName = doc.MissionFile;
+        dlg.ShowOpen();
+        doc.MissionPath = dlg.FileName;
+        doc.MissionFile = dlg.FileTitle;
+        return 0;
+    } catch (const AppError& e) {
+        // A cancel says nothing. The program never leaves SimPath as its working folder, so
+        // there is nothing to set back.
+        if (e.Number() == kErrCancel) return -1;
+        MessageBoxRequest box;
+        box.text = "Error # " + IntText(e.Number()) + " was generated by " + kProgramTitle + "\n" +
+                   e.Description();
+        box.title = "Error";
+        box.icon = MsgIcon::Critical;
+        ed.svc.dialogs.MsgBox(box);
+        return -1;
+    }
+}
+
+void LoadMission(Editor& ed) {
+    ShowLoadMessage(ed, "Loading Mission File");
+    try {
+        StartLoadState(ed);
+        ed.loader.PendingLayoutID = NewUnnamedLayout(ed);
+        MisLines lines(SplitLines(Cp1252ToUtf8(ReadWholeFile(ed.doc.MissionPath))));
+        ed.MDIMissionED.SetMousePointer(kHourglass);
+        ReadSections(ed, lines);
+        ed.StepDetail.clear();
+        RebuildTabs(ed);
+        EndLoadMessage(ed);
+    } catch (const AppError& e) {
+        ReportLoadFailure(ed, e.Number(), e.Description());
+    } catch (const std::exception& e) {
+        ReportLoadFailure(ed, kErrInvalidCall, e.what());
+    }
+}
+
+}  // namespace tarvex
