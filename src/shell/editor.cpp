@@ -1,6 +1,7 @@
 #include "shell/editor.h"
 
 #include "maps/map_drawing_wiring.h"
+#include "shell/main_window_wiring.h"
 
 namespace tarvex {
 
@@ -17,6 +18,7 @@ Editor::Editor(Services services)
       frmSplash(*this),
       frmAbout(*this) {
     WireMapDrawing(*this);
+    WireMainWindow(*this);
 }
 
 Editor::~Editor() {

@@ -22,6 +22,7 @@
 #include "shell/forms/frm_tbl_missions.h"
 #include "shell/forms/mdi_mission_ed.h"
 #include "shell/platform.h"
+#include "shell/shell_state.h"
 
 namespace tarvex {
 
@@ -62,6 +63,7 @@ class Editor {
     std::string ACQuery = "SELECT ShortName,ACId FROM Aircraft";
 
     AppSettings options;
+    ShellState shell;
     ReferenceDatabase db;
 
     // The forms, named as the program knows them. The qualified type names keep each

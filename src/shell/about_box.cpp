@@ -1,0 +1,54 @@
+#include "shell/about_box.h"
+
+#include <exception>
+
+#include "common/paths.h"
+#include "shell/editor.h"
+#include "shell/sounds.h"
+
+namespace tarvex {
+
+namespace {
+
+// A sound made for the box alone; a missing file stays silent.
+void PlayFromSoundFolder(Editor& ed, const char* file) {
+    const int handle = ed.svc.sound.Load(JoinPath(JoinPath(ed.options.SimPath, "sound"), file));
+    PlaySound(ed, handle);
+}
+
+}  // namespace
+
+void mnuAbout_Click(Editor& ed) {
+    auto& about = ed.frmAbout;
+    try {
+        about.picAbout.LoadPicture(JoinPath(ed.options.MapPath, "London1.bmp"));
+    } catch (const std::exception&) {
+    }
+    // The engine has one volume for all sounds, so this one plays at that of sndCheckbox.
+    PlayFromSoundFolder(ed, "amb9.wav");
+    about.SetVisible(true);
+}
+
+void picOK_Click(Editor& ed) {
+    ed.frmAbout.SetVisible(false);
+    PlayFromSoundFolder(ed, "exp.wav");
+
+    auto& main = ed.MDIMissionED;
+    const float left = main.Left();
+    const float top = main.Top();
+    const float width = main.Width();
+    const float height = main.Height();
+
+    main.Move(left + width / 2, top + height / 2, 12, 13);
+    main.SetVisible(true);
+    float grownHeight = 0;
+    for (float w = 12; w <= 9432; w += 500) {
+        grownHeight += 366;
+        const float h = main.Height() < 7188 ? grownHeight : main.Height();
+        main.Move(main.Left() - 250, main.Top() - 188, w, h);
+        ed.svc.clock.DoEvents();
+    }
+    main.Move(left, top, width, height);
+}
+
+}  // namespace tarvex
