@@ -39,11 +39,9 @@ std::vector<std::string> Describe(const PictureSurface& surface) {
     return out;
 }
 
-std::string Circle(Colour pen) {
-    return "circle pen " + std::to_string(pen);
-}
-std::string Circle(Colour pen, Colour fill) {
-    return Circle(pen) + " fill " + std::to_string(fill);
+std::string Circle(Colour pen, Colour fill = -1) {
+    std::string text = "circle pen " + std::to_string(pen);
+    return fill < 0 ? text : text + " fill " + std::to_string(fill);
 }
 std::string Line(Colour pen) {
     return "line pen " + std::to_string(pen);
@@ -248,18 +246,6 @@ TEST_F(PathDrawingTest, HighlightOnlyForARealPointAndUnhighlightRestoresBlack) {
     UnhighlightPoint(ed);
     EXPECT_TRUE(map.Operations().empty());
     EXPECT_EQ(map.ForeColor(), kBlack);
-}
-
-TEST_F(PathDrawingTest, AnotherMapKeepsCoordinatesAndPathLength) {
-    SetPath(0, {"N50 00.00", "N51 00.00", "N52 00.00"});
-    DrawPaths(ed, frm.mapWayPoints);
-    const float total = ed.drawing.TotalPathDist;
-    const float x = ed.doc.WPMapX(0, 1);
-    ed.projection.SetMap(0, 8000, 6000);
-    DrawPaths(ed, frm.mapWayPoints);
-    EXPECT_EQ(ed.drawing.TotalPathDist, total);
-    EXPECT_NE(ed.doc.WPMapX(0, 1), x);
-    EXPECT_EQ(ed.doc.WPLat(0, 1), "N51 00.00");
 }
 
 }  // namespace
