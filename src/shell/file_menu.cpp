@@ -1,5 +1,6 @@
 #include "shell/file_menu.h"
 
+#include "document/mission_loader.h"
 #include "document/mission_reset.h"
 #include "shell/editor.h"
 #include "shell/program_version.h"
@@ -16,8 +17,9 @@ void mnuNew_Click(Editor& ed) {
 
 void mnuOpen_Click(Editor& ed) {
     LoweredFlag loading(ed.doc.NotLoading);
-    // TODO: ChooseMissionToOpen(ed); when it gives 0, ResetMission(ed) and LoadMission(ed),
-    // once the mission loader is in.
+    if (ChooseMissionToOpen(ed) != 0) return;
+    ResetMission(ed);
+    LoadMission(ed);
 }
 
 void mnuSave_Click(Editor&) {

@@ -30,6 +30,8 @@ void mnuCompact_Click(Editor& ed) {
 }  // namespace
 
 void WireMainWindow(Editor& ed) {
+    // The file dialogs of the forms are the desktop's.
+    ed.FrmMission.CommonDialog1.SetDialogs(ed.svc.dialogs);
     WireSplash(ed);
     WireRecentFiles(ed);
     auto& m = ed.MDIMissionED;

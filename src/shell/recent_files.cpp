@@ -2,6 +2,7 @@
 
 #include "common/number_text.h"
 #include "common/paths.h"
+#include "document/mission_loader.h"
 #include "document/mission_reset.h"
 #include "shell/editor.h"
 #include "shell/settings.h"
@@ -71,7 +72,7 @@ void OpenRecentFile(Editor& ed, int k) {
         entry.find('\\') != std::string::npos || entry.find('/') != std::string::npos;
     doc.MissionPath = hasFolder ? entry : JoinPath("missions", entry);
     doc.MissionFile = entry;
-    // TODO: LoadMission(ed) once the mission loader is in.
+    LoadMission(ed);
 }
 
 void WireRecentFiles(Editor& ed) {

@@ -6,6 +6,7 @@
 
 #include "common/paths.h"
 #include "common/text.h"
+#include "document/mission_loader.h"
 #include "document/mission_reset.h"
 #include "maps/tab_selection.h"
 #include "shell/editor.h"
@@ -188,7 +189,7 @@ void OpenFileFromCommand(Editor& ed, const std::string& path) {
     doc.MissionPath = path;
     doc.MissionFile = fs::path(NativePath(path)).filename().string();
     ResetMission(ed);
-    // TODO: LoadMission(ed) once the mission loader is in.
+    LoadMission(ed);
 }
 
 bool StartProgram(Editor& ed, const std::string& commandLine, bool skipSplash) {

@@ -1,11 +1,13 @@
 // The list of recent missions and its entries in the File menu.
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
 #include "common/paths.h"
 #include "shell/editor.h"
+#include "shell/mission_form_load.h"
 #include "shell/recent_files.h"
 #include "support/test_editor.h"
 
@@ -13,6 +15,7 @@ namespace tarvex {
 namespace {
 
 using testing::TestEditor;
+namespace fs = std::filesystem;
 
 std::vector<std::string> Entries(Editor& ed) {
     return {ed.options.RecentFiles.begin() + 1, ed.options.RecentFiles.end()};
@@ -83,17 +86,27 @@ TEST(RecentFilesTest, StoredListComesBackOnTheNextRun) {
 }
 
 TEST(RecentFilesTest, EntryOpensFromTheMissionsFolderOrItsOwnPath) {
+    // A bare entry is found in the missions folder under the current folder, the simulator's.
+    const fs::path saved = fs::current_path();
     TestEditor t;
     Editor& ed = t.OpenDatabase();
+    LoadFrmMission(ed);
+    fs::create_directories(t.folder / "missions");
+    const fs::path sample = fs::path(TARVEX_SOURCE_DIR) / "tests/data/missions/channel_sweep.mis";
+    fs::copy_file(sample, t.folder / "missions" / "Raid.mis");
+    fs::current_path(t.folder);
     AddRecentFile(ed, "Raid.mis");
-    AddRecentFile(ed, "C:\\Work\\Test.mis");
+    AddRecentFile(ed, sample.string());
+
     ed.MDIMissionED.mnudummy(2).UserClick();
     EXPECT_EQ(ed.doc.MissionPath, JoinPath("missions", "Raid.mis"));
-    EXPECT_EQ(ed.doc.MissionFile, "Raid.mis");
+    EXPECT_EQ(ed.MDIMissionED.Caption(), "Tarvex Mission Editor: Raid.mis");
     EXPECT_TRUE(ed.doc.NotLoading);
     ed.MDIMissionED.mnudummy(1).UserClick();
-    EXPECT_EQ(ed.doc.MissionPath, "C:\\Work\\Test.mis");
-    EXPECT_EQ(ed.doc.MissionFile, "C:\\Work\\Test.mis");
+    EXPECT_EQ(ed.doc.MissionPath, sample.string());
+    EXPECT_EQ(ed.doc.MissionFile, sample.string());
+    EXPECT_TRUE(t.dialogs.messages.empty()) << t.dialogs.LastMessage();
+    fs::current_path(saved);
 }
 
 }  // namespace

@@ -202,11 +202,16 @@ TEST(StartupOrderTest, SecondCopyWithoutAFileOpensOffsetAndStoresTheOffset) {
 }
 
 TEST(StartupOrderTest, OnlyAMisNameOnTheCommandLineOpens) {
-    for (const char* line : {"\"C:\\Missions\\RAID.MIS\"", "notes.txt", ""}) {
+    for (const char* name : {"RAID.MIS", "notes.txt"}) {
         Installation in;
-        ASSERT_TRUE(StartProgram(*in.t, line, true));
-        const bool opened = std::string(line).find(".MIS") != std::string::npos;
-        EXPECT_EQ(in.t->doc.MissionPath, opened ? "C:\\Missions\\RAID.MIS" : "") << line;
+        const fs::path file = in.sim / "missions" / name;
+        fs::copy_file(fs::path(TARVEX_SOURCE_DIR) / "tests/data/missions/channel_sweep.mis", file);
+        ASSERT_TRUE(StartProgram(*in.t, "\"" + file.string() + "\"", true));
+        const bool opened = std::string(name) == "RAID.MIS";
+        EXPECT_EQ(in.t->doc.MissionPath, opened ? file.string() : "") << name;
+        EXPECT_EQ(in.t->MDIMissionED.Caption(),
+                  opened ? "Tarvex Mission Editor: RAID.MIS" : "Tarvex Mission Editor");
+        EXPECT_TRUE(in.t.dialogs.messages.empty()) << in.t.dialogs.LastMessage();
     }
 }
 
