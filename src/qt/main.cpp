@@ -1,10 +1,45 @@
-// Entry of the desktop editor. The window arrives with the skin; until then it says so.
+// The desktop editor: the Qt services, the editor and its windows.
+//   tarvex-editor [--screenshot FILE [--tab N]] [MISSION.mis]
 #include <QApplication>
-#include <QMessageBox>
+#include <QFont>
+#include <QTimer>
+#include <cstdio>
+
+#include "qt/editor_session.h"
+#include "qt/editor_window.h"
+#include "qt/services.h"
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
-    QMessageBox::information(nullptr, "Tarvex Mission Editor",
-                             "The editor window is not built yet.");
-    return 0;
+    app.setApplicationName("Sortak");
+    // The forms were laid out for the desktop's small dialog font.
+    QFont font = app.font();
+    font.setPointSizeF(8.0);
+    app.setFont(font);
+
+    QString screenshot;
+    int tab = -1;
+    QStringList rest;
+    const QStringList args = app.arguments();
+    for (int i = 1; i < args.size(); ++i) {
+        if (args[i] == "--screenshot" && i + 1 < args.size())
+            screenshot = args[++i];
+        else if (args[i] == "--tab" && i + 1 < args.size())
+            tab = args[++i].toInt();
+        else
+            rest << args[i];
+    }
+
+    tarvex::qt::QtServices services;
+    tarvex::qt::EditorSession session(tarvex::Services{services.dialogs, services.sound,
+                                                       services.settings, services.registry,
+                                                       services.instance, services.clock});
+    services.dialogs.SetParentWindow(&session.window());
+    services.instance.SetWindow(&session.window());
+    session.Start(rest);
+    if (tab >= 0) session.ShowTab(tab);
+    if (screenshot.isEmpty()) return app.exec();
+    const bool saved = session.SaveScreenshot(screenshot);
+    if (!saved) std::fprintf(stderr, "tarvex-editor: could not write %s\n", qPrintable(screenshot));
+    return saved ? 0 : 1;
 }

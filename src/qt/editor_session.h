@@ -1,0 +1,34 @@
+#pragma once
+// One running editor on the desktop: the Editor on the given services and its windows.
+#include <QString>
+#include <QStringList>
+#include <memory>
+
+#include "shell/editor.h"
+
+namespace tarvex::qt {
+
+class EditorWindow;
+
+class EditorSession {
+  public:
+    explicit EditorSession(Services services);
+    ~EditorSession();
+
+    Editor& ed() { return *editor_; }
+    EditorWindow& window() { return *window_; }
+
+    // The start of the program: the reference database, the mission window's lists, an empty
+    // mission, the main window shown.
+    void Start(const QStringList& arguments);
+    // Shows tab 0..3 as the View menu does.
+    void ShowTab(int tab);
+    // Saves a picture of the main window.
+    bool SaveScreenshot(const QString& file);
+
+  private:
+    std::unique_ptr<Editor> editor_;
+    std::unique_ptr<EditorWindow> window_;
+};
+
+}  // namespace tarvex::qt

@@ -1,0 +1,72 @@
+#include "qt/editor_window.h"
+
+#include <QCloseEvent>
+#include <QEvent>
+#include <QMenuBar>
+
+#include "qt/binders.h"
+#include "qt/form_view.h"
+#include "shell/editor.h"
+
+namespace tarvex::qt {
+
+namespace {
+
+// The status strip's height in map units.
+constexpr float kStripHeight = 330;
+
+}  // namespace
+
+EditorWindow::EditorWindow(Editor& ed) : ed_(ed) {
+    auto& frame = ed.MDIMissionED;
+    auto& mission = ed.FrmMission;
+    // The frame is as wide as the mission window it holds.
+    if (frame.Width() == 0) frame.SetWidth(mission.Width() + 120);
+    BuildMenuBar(menuBar(), frame.MenuBar());
+
+    FormLayout frameLayout;
+    frameLayout.places.push_back({"Picture1", -1, "", 0, 0, frame.Width(), kStripHeight});
+    main_ = new FormView(frame, frameLayout, this, FormView::Mode::Central);
+    setCentralWidget(main_);
+    mission_ = new FormView(mission, MissionFormLayout(mission), main_, FormView::Mode::Child);
+    main_->installEventFilter(this);
+
+    Form* others[] = {&ed.frmNewRecord,   &ed.frmAircraft,  &ed.frmGrndNames, &ed.frmGUOffsets,
+                      &ed.frmtblMissions, &ed.frmMsgScreen, &ed.frmSplash,    &ed.frmAbout};
+    for (Form* form : others)
+        windows_.push_back(
+            std::make_unique<FormView>(*form, FlowLayout(*form), nullptr, FormView::Mode::Window));
+    PlaceStatusStrip();
+}
+
+EditorWindow::~EditorWindow() {
+    // The form windows go first: they listen to models the frame's widgets share.
+    windows_.clear();
+}
+
+FormView* EditorWindow::FormWindow(const std::string& formName) const {
+    for (const auto& window : windows_)
+        if (window->Model().Name() == formName) return window.get();
+    return nullptr;
+}
+
+void EditorWindow::PlaceStatusStrip() {
+    // The strip keeps to the bottom edge and the full width, as a bottom-aligned picture does.
+    PictureSurface& strip = ed_.MDIMissionED.Picture1;
+    const float width = Twips(main_->width());
+    const float top = Twips(main_->height()) - kStripHeight;
+    Guarded([&] { strip.Move(0, std::max(0.0f, top), width, kStripHeight); });
+}
+
+bool EditorWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == main_ && event->type() == QEvent::Resize) PlaceStatusStrip();
+    return false;
+}
+
+void EditorWindow::closeEvent(QCloseEvent* event) {
+    // The close box is the Exit entry's way out.
+    if (ed_.MDIMissionED.mnuExit.Click) Guarded([this] { ed_.MDIMissionED.mnuExit.UserClick(); });
+    event->accept();
+}
+
+}  // namespace tarvex::qt

@@ -1,0 +1,56 @@
+#pragma once
+// The widgets of one form: every control of its register in the container its layout names,
+// each bound to its model, and the form's own caption, place and visibility.
+#include <QWidget>
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "qt/form_layout.h"
+#include "shell/forms/form.h"
+
+namespace tarvex::qt {
+
+class FormView : public QWidget {
+  public:
+    enum class Mode {
+        Window,   // a window of its own
+        Child,    // an area inside another window, placed where the form says
+        Central,  // the body of a main window: the form's place and caption are the window's
+    };
+    FormView(Form& form, const FormLayout& layout, QWidget* parent, Mode mode);
+    ~FormView() override;
+
+    Form& Model() const { return form_; }
+    // The widget of a control; nullptr for one that has none.
+    QWidget* WidgetOf(const std::string& name, int index = -1) const;
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+  private:
+    struct Shared {
+        QWidget* widget;
+        std::set<int> pages;
+    };
+    QWidget* ContainerOf(const std::string& container, QPointF& origin);
+    // A scrolled view at the place, and the widget inside it that holds the control.
+    QWidget* ScrolledHolder(const Placement& place, QWidget* parent, QPointF& origin);
+    // Controls shown on several pages go to the page that is showing.
+    void PlaceShared();
+    void SyncForm();
+
+    Form& form_;
+    Mode mode_;
+    std::map<std::pair<std::string, int>, QWidget*> widgets_;
+    std::vector<Shared> shared_;
+    QWidget* sharedHome_ = nullptr;
+    std::set<QWidget*> holders_;
+    TabControl* tabs_ = nullptr;
+    int tabsListener_ = 0;
+    int formListener_ = 0;
+};
+
+}  // namespace tarvex::qt

@@ -1,0 +1,95 @@
+#include "qt/grid_view.h"
+
+#include <QHeaderView>
+
+#include "qt/binders.h"
+
+namespace tarvex::qt {
+
+namespace {
+
+class GridBinding : public ControlBinding {
+  public:
+    GridBinding(DataGrid& model, GridView* view, QPointF origin)
+        : ControlBinding(model, view, origin), view_(view) {
+        WatchChild(view->viewport());
+    }
+
+  protected:
+    bool PaintsBackColour() const override { return true; }
+    void Sync(Aspect aspect) override {
+        if (aspect == Aspect::Rows || aspect == Aspect::Text) view_->SyncRows();
+        if (aspect == Aspect::Rows || aspect == Aspect::Selection || aspect == Aspect::Value)
+            view_->SyncCurrent();
+        ControlBinding::Sync(aspect);
+    }
+
+  private:
+    GridView* view_;
+};
+
+}  // namespace
+
+GridView::GridView(DataGrid& model, QWidget* parent) : QTableWidget(parent), model_(model) {
+    setSelectionBehavior(QAbstractItemView::SelectItems);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
+                    QAbstractItemView::AnyKeyPressed);
+    verticalHeader()->setDefaultSectionSize(Px(model.RowHeight()) + 2);
+    connect(this, &QTableWidget::currentCellChanged, this, [this](int row, int col, int, int) {
+        if (filling_ || row < 0) return;
+        Guarded([&] { model_.UserMoveTo(row, col); });
+    });
+    connect(this, &QTableWidget::cellChanged, this, [this](int row, int col) {
+        if (filling_) return;
+        const QString text = item(row, col) ? item(row, col)->text() : QString();
+        Guarded([&] {
+            if (model_.Row() != row || model_.Col() != col) model_.UserMoveTo(row, col);
+            model_.UserEditCell(text.toStdString());
+        });
+        SyncRows();
+        SyncCurrent();
+    });
+    connect(horizontalHeader(), &QHeaderView::sectionClicked, this,
+            [this](int col) { Guarded([&] { model_.UserHeadClick(col); }); });
+}
+
+ControlBinding* GridView::Bind(QPointF origin) {
+    return new GridBinding(model_, this, origin);
+}
+
+void GridView::SyncRows() {
+    filling_ = true;
+    const QSignalBlocker blocker(this);
+    const int columns = model_.ColumnCount();
+    const int rows = model_.RowCount() + (model_.AllowAddNew() ? 1 : 0);
+    setColumnCount(columns);
+    setRowCount(rows);
+    QStringList headers;
+    for (int col = 0; col < columns; ++col) {
+        const GridColumn& column = model_.Columns(col);
+        headers << QString::fromStdString(column.Caption());
+        setColumnWidth(col, std::max(8, Px(column.Width())));
+        setColumnHidden(col, !column.Visible());
+    }
+    setHorizontalHeaderLabels(headers);
+    for (int row = 0; row < rows; ++row) {
+        setVerticalHeaderItem(row, new QTableWidgetItem(row == model_.RowCount() ? "*" : ""));
+        for (int col = 0; col < columns; ++col) {
+            auto* cell = new QTableWidgetItem(QString::fromStdString(model_.CellText(row, col)));
+            if (model_.Columns(col).Locked()) cell->setFlags(cell->flags() & ~Qt::ItemIsEditable);
+            setItem(row, col, cell);
+        }
+    }
+    filling_ = false;
+}
+
+void GridView::SyncCurrent() {
+    filling_ = true;
+    const QSignalBlocker blocker(this);
+    if (model_.Row() >= 0 && model_.Row() < rowCount())
+        setCurrentCell(model_.Row(), std::max(0, model_.Col()));
+    filling_ = false;
+}
+
+}  // namespace tarvex::qt

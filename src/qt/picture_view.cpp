@@ -1,0 +1,102 @@
+#include "qt/picture_view.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+
+#include "qt/binders.h"
+
+namespace tarvex::qt {
+
+namespace {
+
+class PictureBinding : public ControlBinding {
+  public:
+    PictureBinding(PictureSurface& model, PictureView* view, QPointF origin)
+        : ControlBinding(model, view, origin), view_(view) {}
+
+  protected:
+    bool PaintsBackColour() const override { return true; }
+    void Sync(Aspect aspect) override {
+        if (aspect == Aspect::Drawing) view_->update();
+        ControlBinding::Sync(aspect);
+    }
+
+  private:
+    PictureView* view_;
+};
+
+QPointF At(float x, float y) {
+    return QPointF(x / kTwipsPerPixel, y / kTwipsPerPixel);
+}
+
+}  // namespace
+
+PictureView::PictureView(PictureSurface& model, QWidget* parent) : QWidget(parent), model_(model) {
+    setMouseTracking(true);
+    // Text is measured with the font it is painted in.
+    model_.measureWidth = [this](const std::string& text) {
+        return Twips(QFontMetricsF(font()).horizontalAdvance(QString::fromStdString(text)));
+    };
+    model_.measureHeight = [this](const std::string&) {
+        return Twips(QFontMetricsF(font()).height());
+    };
+}
+
+PictureView::~PictureView() {
+    model_.measureWidth = nullptr;
+    model_.measureHeight = nullptr;
+}
+
+ControlBinding* PictureView::Bind(QPointF origin) {
+    return new PictureBinding(model_, this, origin);
+}
+
+void PictureView::paintEvent(QPaintEvent*) {
+    // The model's Paint handler redraws into the recording; what it asks to repaint meanwhile
+    // is this very paint.
+    if (!painting_) {
+        painting_ = true;
+        Guarded([this] { model_.RaisePaint(); });
+        painting_ = false;
+    }
+    QPainter painter(this);
+    if (!IsSystemColour(model_.BackColor())) painter.fillRect(rect(), ToQColor(model_.BackColor()));
+    const QString picture = QString::fromStdString(model_.Picture());
+    if (picture != loaded_) {
+        loaded_ = picture;
+        image_ = picture.isEmpty() ? QImage() : QImage(picture);
+    }
+    if (!image_.isNull()) painter.drawImage(0, 0, image_);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setRenderHint(QPainter::TextAntialiasing);
+    const QFontMetricsF metrics(font());
+    for (const DrawOp& op : model_.Operations()) {
+        QPen pen(ToQColor(op.pen), std::max(1, op.drawWidth));
+        painter.setPen(pen);
+        painter.setBrush(op.fillStyle == kFillSolid ? QBrush(ToQColor(op.fillColor)) : Qt::NoBrush);
+        switch (op.kind) {
+            case DrawKind::Circle: {
+                const double r = op.radius / kTwipsPerPixel;
+                painter.drawEllipse(At(op.x1, op.y1), r, r);
+                break;
+            }
+            case DrawKind::Line:
+                painter.drawLine(At(op.x1, op.y1), At(op.x2, op.y2));
+                break;
+            case DrawKind::Box: {
+                const QRectF box = QRectF(At(op.x1, op.y1), At(op.x2, op.y2)).normalized();
+                if (op.fillStyle == kFillSolid && op.fillColor == op.pen)
+                    painter.fillRect(box, ToQColor(op.pen));
+                else
+                    painter.drawRect(box);
+                break;
+            }
+            case DrawKind::Text:
+                painter.drawText(At(op.x1, op.y1) + QPointF(0, metrics.ascent()),
+                                 QString::fromStdString(op.text));
+                break;
+        }
+    }
+}
+
+}  // namespace tarvex::qt

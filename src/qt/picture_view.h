@@ -1,0 +1,30 @@
+#pragma once
+// A picture surface: its bitmap, then its recorded drawing replayed with antialiasing. The
+// pointer reaches the model in map units.
+#include <QImage>
+#include <QString>
+#include <QWidget>
+
+#include "shell/controls/picture_surface.h"
+
+namespace tarvex::qt {
+
+class ControlBinding;
+
+class PictureView : public QWidget {
+  public:
+    PictureView(PictureSurface& model, QWidget* parent);
+    ~PictureView() override;
+    ControlBinding* Bind(QPointF origin);
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    PictureSurface& model_;
+    QString loaded_;
+    QImage image_;
+    bool painting_ = false;
+};
+
+}  // namespace tarvex::qt

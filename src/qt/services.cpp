@@ -1,0 +1,290 @@
+#include "qt/services.h"
+
+#include <pwd.h>
+#include <unistd.h>
+#include <QApplication>
+#include <QAudioDevice>
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QInputDialog>
+#include <QLocalServer>
+#include <QLocalSocket>
+#include <QMediaDevices>
+#include <QMessageBox>
+#include <QSettings>
+#include <QSoundEffect>
+#include <QStandardPaths>
+#include <QStringList>
+#include <QUrl>
+#include <QWidget>
+#include <cstdlib>
+
+namespace tarvex::qt {
+
+namespace {
+
+QString Q(const std::string& text) {
+    return QString::fromStdString(text);
+}
+
+QMessageBox::Icon IconOf(MsgIcon icon) {
+    switch (icon) {
+        case MsgIcon::Critical:
+            return QMessageBox::Critical;
+        case MsgIcon::Exclamation:
+            return QMessageBox::Warning;
+        case MsgIcon::Question:
+            return QMessageBox::Question;
+        case MsgIcon::Information:
+            return QMessageBox::Information;
+        case MsgIcon::None:
+            break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+}  // namespace
+
+QString QtFileFilter(const std::string& filter) {
+    const QStringList parts = Q(filter).split('|');
+    QStringList filters;
+    for (int i = 0; i + 1 < parts.size(); i += 2) {
+        QString name = parts[i].trimmed();
+        // Qt reads the patterns from the parentheses of the name, so they must be there.
+        const QString patterns = QString(parts[i + 1]).replace(';', ' ');
+        if (!name.contains('(')) name += " (" + patterns + ")";
+        filters << name;
+    }
+    if (filters.isEmpty() && !parts.isEmpty() && !parts[0].isEmpty()) filters << parts[0];
+    return filters.join(";;");
+}
+
+// ---- Dialogs -------------------------------------------------------------------------------
+
+MsgAnswer QtDialogs::MsgBox(const MessageBoxRequest& request) {
+    QMessageBox box(IconOf(request.icon), Q(request.title), Q(request.text), QMessageBox::NoButton,
+                    parent_);
+    switch (request.buttons) {
+        case MsgButtons::OK:
+            box.setStandardButtons(QMessageBox::Ok);
+            break;
+        case MsgButtons::OKCancel:
+            box.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
+            break;
+        case MsgButtons::YesNo:
+            box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+            break;
+        case MsgButtons::YesNoCancel:
+            box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+            break;
+    }
+    switch (box.exec()) {
+        case QMessageBox::Yes:
+            return MsgAnswer::Yes;
+        case QMessageBox::No:
+            return MsgAnswer::No;
+        case QMessageBox::Cancel:
+            return MsgAnswer::Cancel;
+        default:
+            break;
+    }
+    // The close box answers as Cancel where there is one, else as the only button.
+    if (request.buttons == MsgButtons::YesNo) return MsgAnswer::No;
+    return request.buttons == MsgButtons::OK ? MsgAnswer::OK : MsgAnswer::Cancel;
+}
+
+std::string QtDialogs::InputBox(const InputBoxRequest& request) {
+    QInputDialog dialog(parent_);
+    dialog.setWindowTitle(Q(request.title));
+    dialog.setLabelText(Q(request.prompt));
+    dialog.setTextValue(Q(request.preset));
+    if (request.x >= 0 && request.y >= 0) dialog.move(request.x / 15, request.y / 15);
+    if (dialog.exec() != QDialog::Accepted) return {};
+    return dialog.textValue().toStdString();
+}
+
+FileDialogResult QtDialogs::ShowOpen(const FileDialogRequest& request) {
+    return Show(request, false);
+}
+
+FileDialogResult QtDialogs::ShowSave(const FileDialogRequest& request) {
+    return Show(request, true);
+}
+
+FileDialogResult QtDialogs::Show(const FileDialogRequest& request, bool save) {
+    QString start = Q(request.initDir);
+    if (!request.fileName.empty()) start = QDir(start).filePath(Q(request.fileName));
+    const QString filter = QtFileFilter(request.filter);
+    const QString chosen =
+        save ? QFileDialog::getSaveFileName(parent_, Q(request.title), start, filter)
+             : QFileDialog::getOpenFileName(parent_, Q(request.title), start, filter);
+    FileDialogResult result;
+    if (chosen.isEmpty()) return result;
+    result.cancelled = false;
+    result.fileName = QDir::toNativeSeparators(chosen).toStdString();
+    result.fileTitle = QFileInfo(chosen).fileName().toStdString();
+    return result;
+}
+
+// ---- Sound ---------------------------------------------------------------------------------
+
+QtSoundEngine::QtSoundEngine() {
+    audio_ = !QMediaDevices::defaultAudioOutput().isNull();
+}
+
+QtSoundEngine::~QtSoundEngine() = default;
+
+int QtSoundEngine::Load(const std::string& path) {
+    const QString file = Q(path);
+    if (!QFileInfo(file).isFile()) return 0;
+    const int handle = next_++;
+    if (audio_) {
+        auto effect = std::make_unique<QSoundEffect>();
+        effect->setSource(QUrl::fromLocalFile(file));
+        effect->setVolume(static_cast<float>(volume_) / 100.0f);
+        effects_[handle] = std::move(effect);
+    }
+    return handle;
+}
+
+void QtSoundEngine::Play(int handle) {
+    auto it = effects_.find(handle);
+    if (it == effects_.end()) return;
+    it->second->play();
+}
+
+void QtSoundEngine::SetVolume(int engineVolume) {
+    volume_ = std::clamp(engineVolume, 0, 100);
+    for (auto& [handle, effect] : effects_)
+        effect->setVolume(static_cast<float>(volume_) / 100.0f);
+}
+
+// ---- Settings ------------------------------------------------------------------------------
+
+namespace {
+
+std::unique_ptr<QSettings> SettingsOf(const std::string& app) {
+    return std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope, Q(app), Q(app));
+}
+
+QString KeyOf(const std::string& section, const std::string& key) {
+    return Q(section) + "/" + Q(key);
+}
+
+}  // namespace
+
+std::optional<std::string> QtSettingsStore::Get(const std::string& app, const std::string& section,
+                                                const std::string& key) const {
+    const QVariant value = SettingsOf(app)->value(KeyOf(section, key));
+    if (!value.isValid()) return std::nullopt;
+    return value.toString().toStdString();
+}
+
+void QtSettingsStore::Save(const std::string& app, const std::string& section,
+                           const std::string& key, const std::string& value) {
+    SettingsOf(app)->setValue(KeyOf(section, key), Q(value));
+}
+
+void QtSettingsStore::Delete(const std::string& app, const std::string& section,
+                             const std::string& key) {
+    SettingsOf(app)->remove(KeyOf(section, key));
+}
+
+// ---- Registry ------------------------------------------------------------------------------
+
+std::string QtRegistry::ReadRegistryValue(RegistryRoot, const std::string&,
+                                          const std::string& value) const {
+    const QString name = Q(value);
+    if (name.compare("path", Qt::CaseInsensitive) == 0) {
+        const char* sim = std::getenv("TARVEX_SIM_PATH");
+        return sim ? std::string(sim) : std::string();
+    }
+    if (name.compare("DefName", Qt::CaseInsensitive) == 0) {
+        if (const passwd* account = getpwuid(getuid())) {
+            // The full name is the first field of the account's comment.
+            std::string full = account->pw_gecos ? account->pw_gecos : "";
+            full = full.substr(0, full.find(','));
+            if (!full.empty()) return full;
+            if (account->pw_name) return account->pw_name;
+        }
+        const char* user = std::getenv("USER");
+        return user ? std::string(user) : std::string();
+    }
+    return {};
+}
+
+// ---- Second copy ---------------------------------------------------------------------------
+
+QtInstanceChannel::QtInstanceChannel(QString serverName) : name_(std::move(serverName)) {
+    if (name_.isEmpty()) {
+        const char* user = std::getenv("USER");
+        name_ = QString("tarvex-mission-editor-%1").arg(user ? user : "user");
+    }
+    QLocalSocket probe;
+    probe.connectToServer(name_);
+    previous_ = probe.waitForConnected(300);
+    if (previous_) return;
+    // A server that died leaves its socket file behind.
+    QLocalServer::removeServer(name_);
+    server_ = new QLocalServer(this);
+    if (server_->listen(name_))
+        connect(server_, &QLocalServer::newConnection, this, &QtInstanceChannel::Serve);
+}
+
+QtInstanceChannel::~QtInstanceChannel() {
+    if (server_) server_->close();
+}
+
+QString QtInstanceChannel::Ask(const QString& line) const {
+    QLocalSocket socket;
+    socket.connectToServer(name_);
+    if (!socket.waitForConnected(500)) return {};
+    socket.write((line + "\n").toUtf8());
+    socket.waitForBytesWritten(500);
+    if (!socket.waitForReadyRead(1000)) return {};
+    return QString::fromUtf8(socket.readLine()).trimmed();
+}
+
+bool QtInstanceChannel::FindWindowByCaption(const std::string& caption) const {
+    if (!previous_) return false;
+    return Ask("caption") == Q(caption);
+}
+
+void QtInstanceChannel::RestoreWindow(const std::string& caption) {
+    if (previous_) Ask("restore " + Q(caption));
+}
+
+void QtInstanceChannel::Serve() {
+    while (QLocalSocket* socket = server_->nextPendingConnection()) {
+        connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
+        connect(socket, &QLocalSocket::readyRead, this, [this, socket] {
+            if (!socket->canReadLine()) return;
+            const QString line = QString::fromUtf8(socket->readLine()).trimmed();
+            const QString caption = window_ ? window_->windowTitle() : QString();
+            if (line.startsWith("restore") && window_ && line.mid(8) == caption) {
+                window_->showNormal();
+                window_->raise();
+                window_->activateWindow();
+            }
+            socket->write((caption + "\n").toUtf8());
+            socket->flush();
+        });
+    }
+}
+
+// ---- Clock ---------------------------------------------------------------------------------
+
+DateTime QtClock::Now() const {
+    const QDateTime now = QDateTime::currentDateTime();
+    return DateTime{now.date().year(), now.date().month(),  now.date().day(),
+                    now.time().hour(), now.time().minute(), now.time().second()};
+}
+
+void QtClock::DoEvents() {
+    QCoreApplication::processEvents();
+}
+
+}  // namespace tarvex::qt

@@ -1,0 +1,108 @@
+#pragma once
+// The desktop services of the editor on Qt: message, input and file boxes, the sound engine,
+// the settings store, the two registry values, the second-copy channel and the clock.
+#include <QObject>
+#include <QPointer>
+#include <QString>
+#include <map>
+#include <memory>
+
+#include "shell/platform.h"
+
+class QLocalServer;
+class QSoundEffect;
+class QWidget;
+
+namespace tarvex::qt {
+
+// Qt's filter text from the common dialog's "Name (*.a)|*.a|..." pairs.
+QString QtFileFilter(const std::string& filter);
+
+class QtDialogs : public Dialogs {
+  public:
+    // The window the boxes belong to; may be set later, when the main window exists.
+    void SetParentWindow(QWidget* parent) { parent_ = parent; }
+    MsgAnswer MsgBox(const MessageBoxRequest& request) override;
+    std::string InputBox(const InputBoxRequest& request) override;
+    FileDialogResult ShowOpen(const FileDialogRequest& request) override;
+    FileDialogResult ShowSave(const FileDialogRequest& request) override;
+
+  private:
+    FileDialogResult Show(const FileDialogRequest& request, bool save);
+    QPointer<QWidget> parent_;
+};
+
+// Wave files through QSoundEffect. A machine without audio output keeps every call silent.
+class QtSoundEngine : public SoundEngine {
+  public:
+    QtSoundEngine();
+    ~QtSoundEngine() override;
+    int Load(const std::string& path) override;
+    void Play(int handle) override;
+    void SetVolume(int engineVolume) override;
+    int Volume() const override { return volume_; }
+
+  private:
+    bool audio_ = false;
+    int volume_ = 100;
+    int next_ = 1;
+    std::map<int, std::unique_ptr<QSoundEffect>> effects_;
+};
+
+// INI files under the user's configuration folder, one per application name.
+class QtSettingsStore : public SettingsStore {
+  public:
+    std::optional<std::string> Get(const std::string& app, const std::string& section,
+                                   const std::string& key) const override;
+    void Save(const std::string& app, const std::string& section, const std::string& key,
+              const std::string& value) override;
+    void Delete(const std::string& app, const std::string& section,
+                const std::string& key) override;
+};
+
+// The simulator's folder from TARVEX_SIM_PATH, the user's name from the account.
+class QtRegistry : public Registry {
+  public:
+    std::string ReadRegistryValue(RegistryRoot root, const std::string& subkey,
+                                  const std::string& value) const override;
+};
+
+// A local server named after the user: the first copy listens, a later copy finds it. The
+// window caption and the restore request travel as one line over the socket.
+class QtInstanceChannel : public QObject, public InstanceChannel {
+    Q_OBJECT
+  public:
+    explicit QtInstanceChannel(QString serverName = {});
+    ~QtInstanceChannel() override;
+    bool PrevInstance() const override { return previous_; }
+    bool FindWindowByCaption(const std::string& caption) const override;
+    void RestoreWindow(const std::string& caption) override;
+    // The window this copy restores when another copy asks, and whose caption it answers.
+    void SetWindow(QWidget* window) { window_ = window; }
+
+  private:
+    QString Ask(const QString& line) const;
+    void Serve();
+    QString name_;
+    bool previous_ = false;
+    QLocalServer* server_ = nullptr;
+    QPointer<QWidget> window_;
+};
+
+class QtClock : public Clock {
+  public:
+    DateTime Now() const override;
+    void DoEvents() override;
+};
+
+// Every service of one running editor.
+struct QtServices {
+    QtDialogs dialogs;
+    QtSoundEngine sound;
+    QtSettingsStore settings;
+    QtRegistry registry;
+    QtInstanceChannel instance;
+    QtClock clock;
+};
+
+}  // namespace tarvex::qt

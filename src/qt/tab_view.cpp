@@ -1,0 +1,142 @@
+#include "qt/tab_view.h"
+
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QTabBar>
+#include <QUrl>
+
+#include "qt/binders.h"
+
+namespace tarvex::qt {
+
+namespace {
+
+class TabBinding : public ControlBinding {
+  public:
+    TabBinding(TabControl& model, TabView* view, QPointF origin)
+        : ControlBinding(model, view, origin), view_(view) {}
+
+  protected:
+    void Sync(Aspect aspect) override {
+        if (aspect != Aspect::Geometry && aspect != Aspect::Focus) view_->SyncPages();
+        ControlBinding::Sync(aspect);
+    }
+
+  private:
+    TabView* view_;
+};
+
+DragData DragDataOf(const QMimeData* mime) {
+    DragData data;
+    if (mime && mime->hasUrls()) {
+        for (const QUrl& url : mime->urls())
+            if (url.isLocalFile()) data.files.push_back(url.toLocalFile().toStdString());
+        data.hasFiles = !data.files.empty();
+    }
+    return data;
+}
+
+int ShiftOf(Qt::KeyboardModifiers modifiers) {
+    return ((modifiers & Qt::ShiftModifier) ? kShiftMask : 0) |
+           ((modifiers & Qt::ControlModifier) ? kCtrlMask : 0) |
+           ((modifiers & Qt::AltModifier) ? kAltMask : 0);
+}
+
+}  // namespace
+
+TabView::TabView(TabControl& model, QWidget* parent) : QTabWidget(parent), model_(model) {
+    setAcceptDrops(true);
+    tabBar()->installEventFilter(this);
+    SyncPages();
+}
+
+ControlBinding* TabView::Bind(QPointF origin) {
+    return new TabBinding(model_, this, origin);
+}
+
+QWidget* TabView::Page(int tab) const {
+    return tab >= 0 && tab < static_cast<int>(pages_.size()) ? pages_[tab] : nullptr;
+}
+
+void TabView::SyncPages() {
+    const QSignalBlocker blocker(this);
+    while (static_cast<int>(pages_.size()) < model_.Tabs()) {
+        auto* page = new QWidget;
+        page->setObjectName(QString("page%1").arg(pages_.size()));
+        page->installEventFilter(this);
+        pages_.push_back(page);
+        addTab(page, QString());
+    }
+    while (static_cast<int>(pages_.size()) > model_.Tabs()) {
+        delete pages_.back();
+        pages_.pop_back();
+    }
+    for (int tab = 0; tab < model_.Tabs(); ++tab) {
+        setTabText(tab, QString::fromStdString(model_.TabCaption(tab)));
+        setTabEnabled(tab, model_.TabEnabled(tab));
+        setTabVisible(tab, model_.TabVisible(tab));
+    }
+    setCurrentIndex(model_.Tab());
+}
+
+bool TabView::eventFilter(QObject* watched, QEvent* event) {
+    const bool onBar = watched == tabBar();
+    const bool onPage = !onBar && event->type() != QEvent::Paint &&
+                        std::find(pages_.begin(), pages_.end(), watched) != pages_.end();
+    if (!onBar && !onPage) return false;
+    if (event->type() != QEvent::MouseButtonPress && event->type() != QEvent::MouseButtonRelease)
+        return false;
+    auto* mouse = static_cast<QMouseEvent*>(event);
+    const int button = mouse->button() == Qt::LeftButton    ? kLeftButton
+                       : mouse->button() == Qt::RightButton ? kRightButton
+                                                            : kMiddleButton;
+    const int shift = ShiftOf(mouse->modifiers());
+    float x = Twips(mouse->position().x());
+    float y;
+    if (onBar) {
+        // The header strip is the model's top TabHeight; the point keeps its place within it.
+        const double share =
+            tabBar()->height() > 0 ? mouse->position().y() / tabBar()->height() : 0;
+        y = static_cast<float>(std::clamp(share, 0.0, 1.0) * model_.TabHeight());
+        x = Twips(tabBar()->mapTo(this, mouse->position().toPoint()).x());
+    } else {
+        y = model_.TabHeight() + Twips(mouse->position().y());
+    }
+    if (event->type() == QEvent::MouseButtonPress) {
+        if (onBar) {
+            const int tab = tabBar()->tabAt(mouse->position().toPoint());
+            if (tab >= 0 && tab != model_.Tab() && model_.TabEnabled(tab))
+                Guarded([&] { model_.SetTab(tab); });
+        }
+        Guarded([&] { model_.RaiseMouseDown(button, shift, x, y); });
+    } else {
+        Guarded([&] { model_.RaiseMouseUp(button, shift, x, y); });
+    }
+    // The strip changes tab only through the model.
+    return onBar;
+}
+
+void TabView::dragEnterEvent(QDragEnterEvent* event) {
+    int effect = kDropEffectNone;
+    Guarded([&] { effect = model_.RaiseDragOver(DragDataOf(event->mimeData())); });
+    if (effect == kDropEffectNone) {
+        event->ignore();
+        return;
+    }
+    event->setDropAction(effect == kDropEffectMove ? Qt::MoveAction : Qt::CopyAction);
+    event->accept();
+}
+
+void TabView::dragMoveEvent(QDragMoveEvent* event) {
+    event->accept();
+}
+
+void TabView::dropEvent(QDropEvent* event) {
+    const DragData data = DragDataOf(event->mimeData());
+    event->acceptProposedAction();
+    Guarded([&] { model_.RaiseDragDrop(data); });
+}
+
+}  // namespace tarvex::qt

@@ -1,0 +1,33 @@
+#pragma once
+// The tab strip with its pages. A press on a header turns the model to that page first and
+// then raises MouseDown at the header's height, as the desktop's strip does; files dragged
+// over it go to the model's drag events.
+#include <QTabWidget>
+#include <vector>
+
+#include "shell/controls/tab_control.h"
+
+namespace tarvex::qt {
+
+class ControlBinding;
+
+class TabView : public QTabWidget {
+  public:
+    TabView(TabControl& model, QWidget* parent);
+    ControlBinding* Bind(QPointF origin);
+    // The page widget of tab n, on which the tab's controls lie.
+    QWidget* Page(int tab) const;
+    void SyncPages();
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+  private:
+    TabControl& model_;
+    std::vector<QWidget*> pages_;
+};
+
+}  // namespace tarvex::qt
