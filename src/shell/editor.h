@@ -5,6 +5,7 @@
 #include <string>
 
 #include "document/mission.h"
+#include "document/mission_loader_state.h"
 #include "document/unit_placement.h"
 #include "ground/layout_transform.h"
 #include "maps/map_drawing_state.h"
@@ -54,6 +55,7 @@ class Editor {
     // What the loader or the saver is doing, shown only in their error reports.
     std::string StepText;
     std::string StepDetail;
+    MissionLoaderState loader;
 
     // The map surface and point list that the waypoint and layout handlers work on.
     PictureSurface* ActiveMap = nullptr;
