@@ -48,7 +48,8 @@ int main(int argc, char** argv) {
     }
     if (command == "region-picture" && argc == 3) {
         tarvex::mapgen::GmtRequest request;
-        if (!tarvex::mapgen::PictureGmtRequest(argv[2], request)) return Usage();
+        // A picture without a chart needs no geography: nothing printed, exit status 1.
+        if (!tarvex::mapgen::PictureGmtRequest(argv[2], request)) return 1;
         PrintRequest(request);
         return 0;
     }
