@@ -5,6 +5,7 @@
 #include <string>
 
 #include "document/mission.h"
+#include "document/saver_state.h"
 #include "document/mission_loader_state.h"
 #include "document/unit_placement.h"
 #include "ground/layout_transform.h"
@@ -55,6 +56,7 @@ class Editor {
     // What the loader or the saver is doing, shown only in their error reports.
     std::string StepText;
     std::string StepDetail;
+    SaverState saver;
     MissionLoaderState loader;
 
     // The map surface and point list that the waypoint and layout handlers work on.
