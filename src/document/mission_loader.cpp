@@ -13,7 +13,10 @@
 #include "ground/ground_reconstruction.h"
 #include "maps/map_loading.h"
 #include "shell/editor.h"
+#include "shell/measurement.h"
+#include "shell/message_screen.h"
 #include "shell/program_version.h"
+#include "shell/recent_files.h"
 
 namespace tarvex {
 
@@ -22,16 +25,9 @@ namespace {
 constexpr int kHourglass = 11;
 constexpr int kDefaultPointer = 0;
 
-// TODO: ShowMessageScreen once the main window has it.
-void ShowLoadMessage(Editor& ed, const std::string& text) {
-    ed.frmMsgScreen.lblMessage.SetCaption(text);
-    ed.frmMsgScreen.SetVisible(true);
-    ed.svc.clock.DoEvents();
-}
-
 void EndLoadMessage(Editor& ed) {
     ed.MDIMissionED.SetMousePointer(kDefaultPointer);
-    ed.frmMsgScreen.SetVisible(false);
+    CloseMessageScreen(ed);
 }
 
 std::string ReadWholeFile(const std::string& path) {
@@ -128,9 +124,9 @@ void RebuildTabs(Editor& ed) {
     doc.NotLoading = true;
     doc.PilotsAssigned = true;
     ed.MDIMissionED.SetCaption("Tarvex Mission Editor: " + doc.MissionFile);
-    // TODO: RememberMission once the start-up module has it.
-    // TODO: ConvertSpeeds when ed.options.Measurement is off, once the main window has it:
-    // the file holds kilometres per hour.
+    RememberMission(ed);
+    // The file holds kilometres per hour; an imperial display works in knots.
+    if (!ed.options.Measurement) ConvertSpeeds(ed);
 
     ed.StepText = "Setting Map Combo";
     frm.cmbGUMap.SetListIndex(frm.cmbSelectMap.ListIndex());
@@ -187,7 +183,7 @@ int ChooseMissionToOpen(Editor& ed) {
 }
 
 void LoadMission(Editor& ed) {
-    ShowLoadMessage(ed, "Loading Mission File");
+    ShowMessageScreen(ed, "Loading Mission File");
     try {
         StartLoadState(ed);
         ed.loader.PendingLayoutID = NewUnnamedLayout(ed);
