@@ -1,0 +1,238 @@
+// The skin on the offscreen platform: the window comes up with its tabs, menu entries and
+// widgets reach the models, the pointer reaches the map in map units, and drawings and the
+// screenshot option render.
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QFileInfo>
+#include <QImage>
+#include <QListWidget>
+#include <QMenuBar>
+#include <QProcess>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTest>
+#include <vector>
+
+#include "qt/editor_session.h"
+#include "qt/editor_window.h"
+#include "qt/form_view.h"
+#include "shell/scripted_platform.h"
+#include "support/reference_folder.h"
+
+namespace tarvex::qt {
+namespace {
+
+class SkinTest : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        folder = testing::MakeTestFolder("skin");
+        const auto db = folder / "Tarvex Missions.mdb";
+        testing::CopyDefaultDatabase(db);
+        settings.Save("Sortak", "Sortak Options", "Sortak DB", db.string());
+        settings.Save("Sortak", "Sortak Options", "Sortak Map",
+                      std::string(TARVEX_SOURCE_DIR) + "/data/maps/");
+        session = std::make_unique<EditorSession>(
+            Services{dialogs, sound, settings, registry, instance, clock});
+        session->Start({});
+        session->window().show();
+        QApplication::processEvents();
+    }
+    void TearDown() override { session.reset(); }
+
+    QWidget* Widget(const char* name, int index = -1) {
+        return session->window().MissionView().WidgetOf(name, index);
+    }
+    QAction* Action(const QString& name) {
+        return session->window().menuBar()->findChild<QAction*>(name);
+    }
+
+    std::filesystem::path folder;
+    ScriptedDialogs dialogs;
+    ScriptedSoundEngine sound;
+    MemorySettingsStore settings;
+    ScriptedRegistry registry;
+    ScriptedInstanceChannel instance;
+    ScriptedClock clock;
+    std::unique_ptr<EditorSession> session;
+};
+
+TEST_F(SkinTest, ShowsTheFourTabsAndTurnsThemThroughTheModel) {
+    auto* tabs = qobject_cast<QTabWidget*>(Widget("SSTab1"));
+    ASSERT_NE(tabs, nullptr);
+    const QStringList captions = {"Summary", "Formations", "Ground Units", "Waypoints"};
+    ASSERT_EQ(tabs->count(), captions.size());
+    for (int tab = 0; tab < tabs->count(); ++tab)
+        EXPECT_EQ(tabs->tabText(tab), captions[tab]);
+    EXPECT_EQ(session->window().windowTitle(), "Tarvex Mission Editor");
+
+    // A press on a header turns the model first, then MouseDown runs within the header strip.
+    auto& model = session->ed().FrmMission.SSTab1;
+    float pressY = -1;
+    int tabAtPress = -1;
+    model.MouseDown = [&](int, int, float, float y) {
+        pressY = y;
+        tabAtPress = model.Tab();
+    };
+    QTabBar* bar = tabs->tabBar();
+    QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(3).center());
+    EXPECT_EQ(tabAtPress, 3);
+    EXPECT_GE(pressY, 0);
+    EXPECT_LE(pressY, model.TabHeight());
+    EXPECT_EQ(tabs->currentIndex(), 3);
+
+    // Code's change shows too.
+    model.MouseDown = nullptr;
+    model.SetTab(1);
+    EXPECT_EQ(tabs->currentIndex(), 1);
+}
+
+TEST_F(SkinTest, MenuEntriesActOnTheirModelsAndFollowThem) {
+    MenuItem& tooltips = session->ed().MDIMissionED.mnuTooltips;
+    if (!tooltips.Click) tooltips.Click = [&] { tooltips.SetChecked(!tooltips.Checked()); };
+    QAction* action = Action("mnuTooltips");
+    ASSERT_NE(action, nullptr);
+    EXPECT_EQ(action->text(), "&Tooltips");
+    const bool before = tooltips.Checked();
+    EXPECT_EQ(action->isChecked(), before);
+    action->trigger();
+    EXPECT_EQ(tooltips.Checked(), !before);
+    EXPECT_EQ(action->isChecked(), !before);
+
+    MenuItem& save = session->ed().MDIMissionED.mnuSave;
+    QAction* saveAction = Action("mnuSave");
+    ASSERT_NE(saveAction, nullptr);
+    EXPECT_EQ(saveAction->shortcut(), QKeySequence("Ctrl+S"));
+    save.SetEnabled(false);
+    EXPECT_FALSE(saveAction->isEnabled());
+    int clicks = 0;
+    save.Click = [&] { ++clicks; };
+    saveAction->trigger();  // a disabled entry can't be chosen
+    EXPECT_EQ(clicks, 0);
+}
+
+TEST_F(SkinTest, PointerOnTheMapReachesTheCoreInMapUnits) {
+    session->ShowTab(3);
+    QApplication::processEvents();
+    QWidget* map = Widget("mapWayPoints");
+    ASSERT_NE(map, nullptr);
+    auto& model = session->ed().FrmMission.mapWayPoints;
+    struct Press {
+        std::string event;
+        int button, shift;
+        float x, y;
+    };
+    std::vector<Press> seen;
+    model.MouseDown = [&](int b, int s, float x, float y) { seen.push_back({"down", b, s, x, y}); };
+    model.MouseUp = [&](int b, int s, float x, float y) { seen.push_back({"up", b, s, x, y}); };
+    struct Case {
+        Qt::MouseButton button;
+        Qt::KeyboardModifiers modifiers;
+        QPoint at;
+        int wantButton, wantShift;
+    };
+    const Case cases[] = {
+        {Qt::LeftButton, {}, {20, 10}, kLeftButton, 0},
+        {Qt::RightButton, Qt::ShiftModifier, {100, 200}, kRightButton, kShiftMask},
+        {Qt::LeftButton, Qt::ControlModifier, {1, 1}, kLeftButton, kCtrlMask},
+    };
+    for (const Case& c : cases) {
+        seen.clear();
+        QTest::mouseClick(map, c.button, c.modifiers, c.at);
+        ASSERT_EQ(seen.size(), 2u);
+        EXPECT_EQ(seen[0].event, "down");
+        EXPECT_EQ(seen[1].event, "up");
+        for (const Press& press : seen) {
+            EXPECT_EQ(press.button, c.wantButton);
+            EXPECT_EQ(press.shift, c.wantShift);
+            EXPECT_FLOAT_EQ(press.x, c.at.x() * 15.0f);
+            EXPECT_FLOAT_EQ(press.y, c.at.y() * 15.0f);
+        }
+    }
+}
+
+TEST_F(SkinTest, UserChoicesAndCodeSelectionsAreOneEvent) {
+    auto& frm = session->ed().FrmMission;
+    // A combo: the user's choice raises Click and UserPick once each.
+    auto* combo = qobject_cast<QComboBox*>(Widget("cmbClouds"));
+    ASSERT_NE(combo, nullptr);
+    int clicks = 0, picks = 0;
+    frm.cmbClouds.Click = [&] { ++clicks; };
+    frm.cmbClouds.UserPick = [&] { ++picks; };
+    const int target = (frm.cmbClouds.ListIndex() + 1) % frm.cmbClouds.ListCount();
+    emit combo->activated(target);
+    EXPECT_EQ(frm.cmbClouds.ListIndex(), target);
+    EXPECT_EQ(clicks, 1);
+    EXPECT_EQ(picks, 1);
+    // Code's selection shows without echoing back into the model.
+    frm.cmbClouds.SetListIndex(0);
+    EXPECT_EQ(combo->currentIndex(), 0);
+    EXPECT_EQ(clicks, 2);
+    EXPECT_EQ(picks, 1);
+
+    // A list: rows and selection follow the model; the user's row goes through ListIndex.
+    auto* list = qobject_cast<QListWidget*>(Widget("lstGroupName"));
+    ASSERT_NE(list, nullptr);
+    int listClicks = 0;
+    frm.lstGroupName.Click = [&] { ++listClicks; };
+    frm.lstGroupName.AddItem("Alpha");
+    frm.lstGroupName.AddItem("Bravo");
+    ASSERT_EQ(list->count(), 2);
+    frm.lstGroupName.SetListIndex(1);
+    EXPECT_EQ(list->currentRow(), 1);
+    EXPECT_EQ(listClicks, 1);
+    session->ShowTab(1);
+    QApplication::processEvents();
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
+                      list->visualItemRect(list->item(0)).center());
+    EXPECT_EQ(frm.lstGroupName.ListIndex(), 0);
+    EXPECT_EQ(listClicks, 2);
+}
+
+TEST_F(SkinTest, StatusStripPaintsTheRecording) {
+    auto& strip = session->ed().MDIMissionED.Picture1;
+    QWidget* widget = session->window().MainView().WidgetOf("Picture1");
+    ASSERT_NE(widget, nullptr);
+    strip.Cls();
+    strip.SetDrawWidth(4);
+    strip.Line(0, 150, 3000, 150, Rgb(255, 0, 0));
+    const QImage image = widget->grab().toImage();
+    const QColor mid = image.pixelColor(100 * image.width() / widget->width(),
+                                        10 * image.height() / widget->height());
+    EXPECT_GT(mid.red(), 200);
+    EXPECT_LT(mid.green(), 60);
+    strip.Cls();
+    const QColor cleared = widget->grab().toImage().pixelColor(100, 10);
+    EXPECT_GT(cleared.green(), 100);
+}
+
+TEST(SkinProgram, ScreenshotOptionWritesAPicture) {
+    const QString out =
+        QString::fromStdString((testing::MakeTestFolder("screenshot") / "waypoints.png").string());
+    QProcess editor;
+    editor.setWorkingDirectory(TARVEX_BINARY_DIR "/default-install");
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.insert("QT_QPA_PLATFORM", "offscreen");
+    env.insert("XDG_CONFIG_HOME",
+               QString::fromStdString(testing::MakeTestFolder("screenshot-config").string()));
+    editor.setProcessEnvironment(env);
+    editor.start(TARVEX_BINARY_DIR "/src/qt/tarvex-editor", {"--screenshot", out, "--tab", "3"});
+    ASSERT_TRUE(editor.waitForFinished(60000));
+    EXPECT_EQ(editor.exitCode(), 0) << editor.readAllStandardError().toStdString();
+    const QImage image(out);
+    ASSERT_FALSE(image.isNull());
+    EXPECT_GT(image.width(), 500);
+    EXPECT_GT(image.height(), 400);
+}
+
+}  // namespace
+}  // namespace tarvex::qt
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    ::testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}
