@@ -1,4 +1,4 @@
-// The about box's sounds and show, and the fixed size of the mission window.
+// The about box's sounds and show, and the offsets window following the main window.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -43,18 +43,9 @@ TEST(MainWindowAboutTest, BoxPlaysOnlyWithSoundOnAndTheWindowComesBackWhereItWas
     }
 }
 
-TEST(MainWindowAboutTest, MissionWindowKeepsItsSizeAndOffsetsFollowTheMainWindow) {
+TEST(MainWindowAboutTest, OffsetsWindowHidesWithTheMinimisedMainWindow) {
     TestEditor t;
     Editor& ed = *t;
-    auto& frm = ed.FrmMission;
-    frm.Move(50, 60, 2000, 1000);
-    FrmMission_Resize(ed, false);
-    EXPECT_EQ(frm.Width(), 2000) << "minimised or maximised is left alone";
-    FrmMission_Resize(ed, true);
-    EXPECT_EQ(frm.Left(), 50);
-    EXPECT_EQ(frm.Width(), 9384);
-    EXPECT_EQ(frm.Height(), 6648);
-
     MDIMissionED_Resize(ed, true);
     EXPECT_FALSE(ed.frmGUOffsets.Visible()) << "a closed offsets window stays closed";
     ed.frmGUOffsets.SetVisible(true);

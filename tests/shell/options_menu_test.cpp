@@ -133,17 +133,5 @@ TEST(OptionsMenuTest, UnitToggleConvertsSpeedsAndLabels) {
     EXPECT_TRUE(ed.MDIMissionED.mnuDist.Checked());
 }
 
-TEST(OptionsMenuTest, SwitchesFollowTheirCheckMarks) {
-    TestEditor t;
-    Editor& ed = *t;
-    auto& m = ed.MDIMissionED;
-    m.mnuAutoUpdate.UserClick();
-    EXPECT_TRUE(ed.options.AutoUpdate);
-    EXPECT_TRUE(m.mnuAutoUpdate.Checked());
-    m.mnuTooltips.UserClick();
-    EXPECT_FALSE(ed.options.ToolTipsOn);
-    EXPECT_FALSE(m.mnuTooltips.Checked());
-}
-
 }  // namespace
 }  // namespace tarvex

@@ -85,26 +85,29 @@ TEST(RecentFilesTest, StoredListComesBackOnTheNextRun) {
     EXPECT_TRUE(later.MDIMissionED.mnudummy(2).Visible());
 }
 
-TEST(RecentFilesTest, EntryOpensFromTheMissionsFolderOrItsOwnPath) {
+TEST(RecentFilesTest, EntryOpensFromItsOwnPathOrTheMissionsFolder) {
     // A bare entry is found in the missions folder under the current folder, the simulator's.
     const fs::path saved = fs::current_path();
     TestEditor t;
     Editor& ed = t.OpenDatabase();
     LoadFrmMission(ed);
-    fs::create_directories(t.folder / "missions");
     const fs::path sample = fs::path(TARVEX_SOURCE_DIR) / "tests/data/missions/channel_sweep.mis";
+    const fs::path elsewhere = t.folder / "work" / "Test.mis";
+    fs::create_directories(t.folder / "missions");
+    fs::create_directories(elsewhere.parent_path());
     fs::copy_file(sample, t.folder / "missions" / "Raid.mis");
+    fs::copy_file(sample, elsewhere);
     fs::current_path(t.folder);
     AddRecentFile(ed, "Raid.mis");
-    AddRecentFile(ed, sample.string());
+    AddRecentFile(ed, elsewhere.string());
 
+    ed.MDIMissionED.mnudummy(1).UserClick();
+    EXPECT_EQ(ed.doc.MissionPath, elsewhere.string());
+    EXPECT_EQ(ed.doc.MissionFile, elsewhere.string());
     ed.MDIMissionED.mnudummy(2).UserClick();
     EXPECT_EQ(ed.doc.MissionPath, JoinPath("missions", "Raid.mis"));
     EXPECT_EQ(ed.MDIMissionED.Caption(), "Tarvex Mission Editor: Raid.mis");
     EXPECT_TRUE(ed.doc.NotLoading);
-    ed.MDIMissionED.mnudummy(1).UserClick();
-    EXPECT_EQ(ed.doc.MissionPath, sample.string());
-    EXPECT_EQ(ed.doc.MissionFile, sample.string());
     EXPECT_TRUE(t.dialogs.messages.empty()) << t.dialogs.LastMessage();
     fs::current_path(saved);
 }

@@ -74,17 +74,6 @@ TEST(SettingsStoreTest, FirstRunWithoutTheSimulatorAsksAndGoesOnWithoutIt) {
     EXPECT_TRUE(t.dialogs.opens.empty());
 }
 
-TEST(SettingsStoreTest, FirstRunLocatedSimulatorIsTheChosenFilesFolder) {
-    KeepCurrentFolder keep;
-    TestEditor t;
-    t.dialogs.QueueOpen("/games/tarvex/Tarvex.exe");
-    ReadSettings(*t);
-    ASSERT_EQ(t.dialogs.opens.size(), 1u);
-    EXPECT_EQ(t.dialogs.opens[0].title, "Locate Tarvex Folder");
-    EXPECT_EQ(t.dialogs.opens[0].filter, "(*.exe)|*.exe");
-    EXPECT_EQ(t->options.SimPath, "/games/tarvex/");
-}
-
 TEST(SettingsStoreTest, LaterRunReadsWhatIsStoredAndAbsentValuesAsNothing) {
     KeepCurrentFolder keep;
     const fs::path sim = testing::MakeTestFolder("sim");
