@@ -18,9 +18,9 @@ class EditorSession {
     Editor& ed() { return *editor_; }
     EditorWindow& window() { return *window_; }
 
-    // The start of the program: the reference database, the mission window's lists, an empty
-    // mission, the main window shown.
-    void Start(const QStringList& arguments);
+    // The start of the program through the core's start-up; the command line may name a
+    // mission to open. False when the program must end now.
+    bool Start(const QString& commandLine, bool skipSplash);
     // Shows tab 0..3 as the View menu does.
     void ShowTab(int tab);
     // Saves a picture of the main window.

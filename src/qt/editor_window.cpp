@@ -7,6 +7,7 @@
 #include "qt/binders.h"
 #include "qt/form_view.h"
 #include "shell/editor.h"
+#include "shell/program_exit.h"
 
 namespace tarvex::qt {
 
@@ -64,9 +65,13 @@ bool EditorWindow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void EditorWindow::closeEvent(QCloseEvent* event) {
-    // The close box is the Exit entry's way out.
-    if (ed_.MDIMissionED.mnuExit.Click) Guarded([this] { ed_.MDIMissionED.mnuExit.UserClick(); });
-    event->accept();
+    // The close box asks the core, which may keep the window open.
+    bool closing = true;
+    Guarded([&] { closing = CloseMainWindow(ed_, UnloadMode::FormControlMenu); });
+    if (closing)
+        event->accept();
+    else
+        event->ignore();
 }
 
 }  // namespace tarvex::qt

@@ -2,7 +2,6 @@
 //   tarvex-editor [--screenshot FILE [--tab N]] [MISSION.mis]
 #include <QApplication>
 #include <QFont>
-#include <QTimer>
 #include <cstdio>
 
 #include "qt/editor_session.h"
@@ -29,16 +28,20 @@ int main(int argc, char** argv) {
         else
             rest << args[i];
     }
+    const bool unattended = !screenshot.isEmpty();
 
     tarvex::qt::QtServices services;
+    services.dialogs.SetUnattended(unattended);
     tarvex::qt::EditorSession session(tarvex::Services{services.dialogs, services.sound,
                                                        services.settings, services.registry,
                                                        services.instance, services.clock});
     services.dialogs.SetParentWindow(&session.window());
     services.instance.SetWindow(&session.window());
-    session.Start(rest);
+    session.ed().shell.OnProgramEnd = [] { QCoreApplication::exit(0); };
+    if (!session.Start(rest.join(' '), unattended)) return 0;
+    if (!unattended) return app.exec();
+
     if (tab >= 0) session.ShowTab(tab);
-    if (screenshot.isEmpty()) return app.exec();
     const bool saved = session.SaveScreenshot(screenshot);
     if (!saved) std::fprintf(stderr, "tarvex-editor: could not write %s\n", qPrintable(screenshot));
     return saved ? 0 : 1;

@@ -20,6 +20,7 @@
 #include <QStringList>
 #include <QUrl>
 #include <QWidget>
+#include <cstdio>
 #include <cstdlib>
 
 namespace tarvex::qt {
@@ -64,7 +65,26 @@ QString QtFileFilter(const std::string& filter) {
 
 // ---- Dialogs -------------------------------------------------------------------------------
 
+namespace {
+
+MsgAnswer CloseBoxAnswer(MsgButtons buttons) {
+    switch (buttons) {
+        case MsgButtons::OK:
+            return MsgAnswer::OK;
+        case MsgButtons::YesNo:
+            return MsgAnswer::No;
+        default:
+            return MsgAnswer::Cancel;
+    }
+}
+
+}  // namespace
+
 MsgAnswer QtDialogs::MsgBox(const MessageBoxRequest& request) {
+    if (unattended_) {
+        std::fprintf(stderr, "[%s] %s\n", request.title.c_str(), request.text.c_str());
+        return CloseBoxAnswer(request.buttons);
+    }
     QMessageBox box(IconOf(request.icon), Q(request.title), Q(request.text), QMessageBox::NoButton,
                     parent_);
     switch (request.buttons) {
@@ -91,12 +111,11 @@ MsgAnswer QtDialogs::MsgBox(const MessageBoxRequest& request) {
         default:
             break;
     }
-    // The close box answers as Cancel where there is one, else as the only button.
-    if (request.buttons == MsgButtons::YesNo) return MsgAnswer::No;
-    return request.buttons == MsgButtons::OK ? MsgAnswer::OK : MsgAnswer::Cancel;
+    return CloseBoxAnswer(request.buttons);
 }
 
 std::string QtDialogs::InputBox(const InputBoxRequest& request) {
+    if (unattended_) return {};
     QInputDialog dialog(parent_);
     dialog.setWindowTitle(Q(request.title));
     dialog.setLabelText(Q(request.prompt));
@@ -115,6 +134,7 @@ FileDialogResult QtDialogs::ShowSave(const FileDialogRequest& request) {
 }
 
 FileDialogResult QtDialogs::Show(const FileDialogRequest& request, bool save) {
+    if (unattended_) return {};
     QString start = Q(request.initDir);
     if (!request.fileName.empty()) start = QDir(start).filePath(Q(request.fileName));
     const QString filter = QtFileFilter(request.filter);

@@ -22,6 +22,9 @@ class QtDialogs : public Dialogs {
   public:
     // The window the boxes belong to; may be set later, when the main window exists.
     void SetParentWindow(QWidget* parent) { parent_ = parent; }
+    // Without anyone to answer (a screenshot run): each box is written to the console and
+    // answered as its close box would be; input and file boxes are cancelled.
+    void SetUnattended(bool unattended) { unattended_ = unattended; }
     MsgAnswer MsgBox(const MessageBoxRequest& request) override;
     std::string InputBox(const InputBoxRequest& request) override;
     FileDialogResult ShowOpen(const FileDialogRequest& request) override;
@@ -30,6 +33,7 @@ class QtDialogs : public Dialogs {
   private:
     FileDialogResult Show(const FileDialogRequest& request, bool save);
     QPointer<QWidget> parent_;
+    bool unattended_ = false;
 };
 
 // Wave files through QSoundEffect. A machine without audio output keeps every call silent.

@@ -31,12 +31,15 @@ class SkinTest : public ::testing::Test {
         folder = testing::MakeTestFolder("skin");
         const auto db = folder / "Tarvex Missions.mdb";
         testing::CopyDefaultDatabase(db);
-        settings.Save("Sortak", "Sortak Options", "Sortak DB", db.string());
-        settings.Save("Sortak", "Sortak Options", "Sortak Map",
-                      std::string(TARVEX_SOURCE_DIR) + "/data/maps/");
+        // A run after the first: the folders come from the settings.
+        const std::string options = "Sortak Options";
+        settings.Save("Sortak", options, "Path", folder.string() + "/");
+        settings.Save("Sortak", options, "Sortak DB", db.string());
+        settings.Save("Sortak", options, "Sortak Map",
+                      std::string(TARVEX_BINARY_DIR) + "/default-install/Sortak/Sortak Maps/");
         session = std::make_unique<EditorSession>(
             Services{dialogs, sound, settings, registry, instance, clock});
-        session->Start({});
+        ASSERT_TRUE(session->Start({}, true));
         session->window().show();
         QApplication::processEvents();
     }
@@ -215,10 +218,13 @@ TEST(SkinProgram, ScreenshotOptionWritesAPicture) {
     editor.setWorkingDirectory(TARVEX_BINARY_DIR "/default-install");
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
     env.insert("QT_QPA_PLATFORM", "offscreen");
+    env.insert("TARVEX_SIM_PATH", TARVEX_BINARY_DIR "/default-install/Tarvex");
     env.insert("XDG_CONFIG_HOME",
                QString::fromStdString(testing::MakeTestFolder("screenshot-config").string()));
     editor.setProcessEnvironment(env);
-    editor.start(TARVEX_BINARY_DIR "/src/qt/tarvex-editor", {"--screenshot", out, "--tab", "3"});
+    editor.start(TARVEX_BINARY_DIR "/src/qt/tarvex-editor",
+                 {"--screenshot", out, "--tab", "3",
+                  TARVEX_SOURCE_DIR "/tests/data/missions/channel_sweep.mis"});
     ASSERT_TRUE(editor.waitForFinished(60000));
     EXPECT_EQ(editor.exitCode(), 0) << editor.readAllStandardError().toStdString();
     const QImage image(out);
