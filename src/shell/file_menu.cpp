@@ -2,6 +2,7 @@
 
 #include "document/mission_loader.h"
 #include "document/mission_reset.h"
+#include "document/mission_saver.h"
 #include "shell/editor.h"
 #include "shell/program_version.h"
 
@@ -22,14 +23,12 @@ void mnuOpen_Click(Editor& ed) {
     LoadMission(ed);
 }
 
-void mnuSave_Click(Editor&) {
-    // TODO: ValidateMission(ed); when it passes and MissionPath is empty, ChooseMissionToSave
-    // (a cancel ends it); then SaveMission(ed), once the saver is in.
+void mnuSave_Click(Editor& ed) {
+    FileSave(ed);
 }
 
-void mnuSaveAs_Click(Editor&) {
-    // TODO: ValidateMission(ed); when it passes, ChooseMissionToSave, and when a file was
-    // chosen, SaveMission(ed), once the saver is in.
+void mnuSaveAs_Click(Editor& ed) {
+    FileSaveAs(ed);
 }
 
 }  // namespace tarvex

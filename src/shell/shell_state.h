@@ -19,6 +19,8 @@ struct ShellState {
 
     // Handed to OpenFileFromCommand once the main window is up.
     std::string CommandLine;
+    // The splash has handed over: the main window is loading or loaded.
+    bool SplashEnded = false;
     bool MainWindowLoaded = false;
     // The program has ended (a declined second copy, a missing file, or the closing of the main
     // window). Nothing runs after this; the desktop leaves its event loop.

@@ -120,8 +120,10 @@ bool LoadSplash(Editor& ed, const std::string& commandLine) {
 
 bool EndSplash(Editor& ed) {
     auto& splash = ed.frmSplash;
-    // The timer and the click may both come; only the first one counts.
-    if (ed.shell.MainWindowLoaded || ed.shell.Ended || !splash.Visible()) return !ed.shell.Ended;
+    // The timer and the click may both come, the click even while the main window loads;
+    // only the first one counts.
+    if (ed.shell.SplashEnded || ed.shell.Ended) return !ed.shell.Ended;
+    ed.shell.SplashEnded = true;
     splash.Timer1.SetEnabled(false);
     const bool loaded = LoadMainWindow(ed);
     splash.SetVisible(false);

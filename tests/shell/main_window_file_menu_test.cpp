@@ -1,4 +1,4 @@
-// The File menu's New and Open, and the database tool, on a loaded mission window.
+// The File menu's mission commands and the database tool, on a loaded mission window.
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -16,7 +16,7 @@ namespace fs = std::filesystem;
 
 const fs::path kSample = fs::path(TARVEX_SOURCE_DIR) / "tests/data/missions/channel_sweep.mis";
 
-TEST(MainWindowFileMenuTest, OpenLoadsTheChosenMissionAndCancelKeepsTheOneInMemory) {
+TEST(MainWindowFileMenuTest, OpenSaveAsSaveAndNew) {
     TestEditor t;
     Editor& ed = t.OpenDatabase();
     LoadFrmMission(ed);
@@ -32,6 +32,18 @@ TEST(MainWindowFileMenuTest, OpenLoadsTheChosenMissionAndCancelKeepsTheOneInMemo
     EXPECT_EQ(m.Caption(), "Tarvex Mission Editor: channel_sweep.mis");
     EXPECT_EQ(ed.doc.MissionPath, kSample.string());
     EXPECT_TRUE(ed.doc.NotLoading);
+    EXPECT_TRUE(t.dialogs.messages.empty()) << t.dialogs.LastMessage();
+
+    // Save As asks for a name; Save then writes there without asking again.
+    const fs::path copy = t.folder / "Copy.mis";
+    t.dialogs.QueueSave(copy.string());
+    m.mnuSaveAs.UserClick();
+    EXPECT_EQ(ed.doc.MissionPath, copy.string());
+    EXPECT_TRUE(fs::exists(copy));
+    fs::remove(copy);
+    m.mnuSave.UserClick();
+    EXPECT_EQ(t.dialogs.saves.size(), 1u);
+    EXPECT_TRUE(fs::exists(copy));
     EXPECT_TRUE(t.dialogs.messages.empty()) << t.dialogs.LastMessage();
 
     // New discards it without a question.

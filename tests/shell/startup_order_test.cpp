@@ -110,13 +110,18 @@ TEST(StartupOrderTest, LaterRunComesUpWithItsSettingsApplied) {
 TEST(StartupOrderTest, SplashWaitsForItsTimerOrAClickWhicheverComesFirst) {
     Installation in;
     Editor& ed = *in.t;
-    ASSERT_TRUE(StartProgram(ed, "", false));
+    const fs::path mission = in.sim / "missions" / "Raid.mis";
+    fs::copy_file(fs::path(TARVEX_SOURCE_DIR) / "tests/data/missions/channel_sweep.mis", mission);
+    ASSERT_TRUE(StartProgram(ed, mission.string(), false));
     EXPECT_TRUE(ed.frmSplash.Visible());
     EXPECT_EQ(ed.frmSplash.Timer1.Interval(), 1000);
     EXPECT_TRUE(ed.frmSplash.Timer1.Running());
     EXPECT_FALSE(ed.db.theDB.IsOpen());
 
+    // A click that comes while the mission of the command line loads changes nothing.
+    in.t.clock.onDoEvents = [&ed] { ed.frmSplash.picSplash.UserClick(); };
     ed.frmSplash.picSplash.UserClick();
+    EXPECT_GT(in.t.clock.doEventsCount, 0);
     EXPECT_TRUE(ed.shell.MainWindowLoaded);
     EXPECT_FALSE(ed.frmSplash.Timer1.Running());
     EXPECT_FALSE(ed.frmSplash.Visible());
