@@ -64,8 +64,8 @@ FormLayout MissionFormLayout(const FrmMission&) {
     at("txtDate", s, 1320, 3640, 1200, kText);
     text(s, "Time", 2640, 3660, 500);
     at("txtTime", s, 3120, 3640, 900, kText);
-    text(s, "% Reqd", 4260, 3660, 700);
-    at("txtPctReqd", s, 4800, 3640, 420, kText);
+    text(s, "% Reqd", 4200, 3660, 640);
+    at("txtPctReqd", s, 4860, 3640, 360, kText);
     text(s, "Clouds", 120, 4040, 1100);
     at("cmbClouds", s, 1320, 4000, 2100, kCombo);
     text(s, "Visibility", 120, 4420, 1100);
