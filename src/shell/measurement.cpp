@@ -5,6 +5,7 @@
 
 #include "common/number_text.h"
 #include "common/numbers.h"
+#include "maps/path_drawing.h"
 #include "shell/editor.h"
 
 namespace tarvex {
@@ -49,7 +50,9 @@ void mnuDist_Click(Editor& ed) {
     ApplyMeasurement(ed);
     ConvertSpeeds(ed);
     // TODO: reload frmGUOffsets with the offsets query of the new unit system when it is open,
-    // and redraw mapWayPoints, once the offsets window and the map drawing are in.
+    // once the offsets window is in.
+    // The path length read-out is in the new unit.
+    DrawPaths(ed, ed.FrmMission.mapWayPoints);
 }
 
 }  // namespace tarvex
