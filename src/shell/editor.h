@@ -5,8 +5,8 @@
 #include <string>
 
 #include "document/mission.h"
-#include "document/saver_state.h"
 #include "document/mission_loader_state.h"
+#include "document/saver_state.h"
 #include "document/unit_placement.h"
 #include "ground/layout_transform.h"
 #include "maps/map_drawing_state.h"
@@ -56,8 +56,8 @@ class Editor {
     // What the loader or the saver is doing, shown only in their error reports.
     std::string StepText;
     std::string StepDetail;
-    SaverState saver;
     MissionLoaderState loader;
+    SaverState saver;
 
     // The map surface and point list that the waypoint and layout handlers work on.
     PictureSurface* ActiveMap = nullptr;
