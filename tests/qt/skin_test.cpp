@@ -8,6 +8,7 @@
 #include <QComboBox>
 #include <QFileInfo>
 #include <QImage>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QMenuBar>
 #include <QProcess>
@@ -19,6 +20,7 @@
 #include "qt/editor_session.h"
 #include "qt/editor_window.h"
 #include "qt/form_view.h"
+#include "qt/services.h"
 #include "shell/scripted_platform.h"
 #include "support/reference_folder.h"
 
@@ -192,6 +194,41 @@ TEST_F(SkinTest, UserChoicesAndCodeSelectionsAreOneEvent) {
                       list->visualItemRect(list->item(0)).center());
     EXPECT_EQ(frm.lstGroupName.ListIndex(), 0);
     EXPECT_EQ(listClicks, 2);
+}
+
+TEST_F(SkinTest, TypingReachesTheTextBoxAndKeepsTheCaret) {
+    auto& box = session->ed().FrmMission.txtType;
+    auto* edit = qobject_cast<QLineEdit*>(Widget("txtType"));
+    ASSERT_NE(edit, nullptr);
+    session->ShowTab(0);
+    box.SetText("");
+    int changes = 0;
+    box.Change = [&] { ++changes; };
+    edit->setFocus();
+    QTest::keyClicks(edit, "Sweep");
+    EXPECT_EQ(box.Text(), "Sweep");
+    EXPECT_EQ(changes, 5);
+    // The caret stays where the typing is, not where setting a text puts it.
+    EXPECT_EQ(edit->cursorPosition(), 5);
+    box.SetText("Escort");
+    EXPECT_EQ(edit->text(), "Escort");
+    EXPECT_EQ(changes, 6);
+}
+
+TEST(SkinServices, FileFiltersTakeQtsForm) {
+    struct Case {
+        const char* filter;
+        const char* qt;
+    };
+    const Case cases[] = {
+        {"(*.mdb)|*.mdb", "(*.mdb)"},
+        {"Text (*.mis)|*.mis", "Text (*.mis)"},
+        {"Aircraft|*.air", "Aircraft (*.air)"},
+        {"Missions (*.mis)|*.mis|All (*.*)|*.*", "Missions (*.mis);;All (*.*)"},
+        {"Pictures|*.bmp;*.dib", "Pictures (*.bmp *.dib)"},
+    };
+    for (const Case& c : cases)
+        EXPECT_EQ(QtFileFilter(c.filter).toStdString(), c.qt) << c.filter;
 }
 
 TEST_F(SkinTest, StatusStripPaintsTheRecording) {
