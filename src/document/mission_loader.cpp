@@ -30,6 +30,37 @@ void EndLoadMessage(Editor& ed) {
     CloseMessageScreen(ed);
 }
 
+// The layouts a load adds or drops are written in one transaction, so that a load costs one
+// write to disk and not one per unit. What was written stays, also when the load fails.
+class LoadTransaction {
+  public:
+    explicit LoadTransaction(Database& db) : db_(db) {
+        try {
+            db_.Execute("BEGIN");
+            open_ = true;
+        } catch (const AppError&) {
+            // Without a transaction each statement stands on its own, which is only slower.
+        }
+    }
+    ~LoadTransaction() { Commit(); }
+    // Ends the transaction, keeping what was written; before the tabs are rebuilt and before
+    // a report is shown, so that no other copy of the program waits on a dialog.
+    void Commit() noexcept {
+        if (!open_) return;
+        open_ = false;
+        try {
+            db_.Execute("COMMIT");
+        } catch (...) {
+        }
+    }
+    LoadTransaction(const LoadTransaction&) = delete;
+    LoadTransaction& operator=(const LoadTransaction&) = delete;
+
+  private:
+    Database& db_;
+    bool open_ = false;
+};
+
 std::string ReadWholeFile(const std::string& path) {
     std::ifstream in(path, std::ios::binary);
     if (!in) Raise(kErrFileNotFound);
@@ -184,18 +215,22 @@ int ChooseMissionToOpen(Editor& ed) {
 
 void LoadMission(Editor& ed) {
     ShowMessageScreen(ed, "Loading Mission File");
+    LoadTransaction transaction(ed.db.theDB);
     try {
         StartLoadState(ed);
         ed.loader.PendingLayoutID = NewUnnamedLayout(ed);
         MisLines lines(SplitLines(Cp1252ToUtf8(ReadWholeFile(ed.doc.MissionPath))));
         ed.MDIMissionED.SetMousePointer(kHourglass);
         ReadSections(ed, lines);
+        transaction.Commit();
         ed.StepDetail.clear();
         RebuildTabs(ed);
         EndLoadMessage(ed);
     } catch (const AppError& e) {
+        transaction.Commit();
         ReportLoadFailure(ed, e.Number(), e.Description());
     } catch (const std::exception& e) {
+        transaction.Commit();
         ReportLoadFailure(ed, kErrInvalidCall, e.what());
     }
 }
