@@ -1,3 +1,4 @@
+#include "common/paths.h"
 #include "document/loader_fixture.h"
 
 namespace tarvex::testing {
@@ -88,6 +89,32 @@ TEST_F(LoaderTest, ReadsEverySectionOfAWrittenMission) {
     EXPECT_EQ(ed.MDIMissionED.Caption(), "Tarvex Mission Editor: channel_sweep.mis");
     EXPECT_TRUE(doc.PilotsAssigned);
     EXPECT_FALSE(ed.frmMsgScreen.Visible());
+}
+
+}  // namespace
+}  // namespace tarvex::testing
+
+namespace tarvex::testing {
+namespace {
+
+TEST_F(LoaderTest, ChoosesTheMissionInTheSimulatorsMissionsFolder) {
+    ed.options.SimPath = "/sim/";
+    ed.doc.MissionFile = "old.mis";
+    t.dialogs.QueueOpen("/sim/missions/new.mis");
+    EXPECT_EQ(ChooseMissionToOpen(ed), 0);
+    ASSERT_EQ(t.dialogs.opens.size(), 1u);
+    EXPECT_EQ(t.dialogs.opens[0].title, "Open Mission File");
+    EXPECT_EQ(t.dialogs.opens[0].filter, "(*.mis)|*.mis");
+    EXPECT_EQ(t.dialogs.opens[0].initDir, JoinPath("/sim/", "missions"));
+    EXPECT_EQ(t.dialogs.opens[0].fileName, "old.mis");
+    EXPECT_EQ(ed.doc.MissionPath, "/sim/missions/new.mis");
+    EXPECT_EQ(ed.doc.MissionFile, "new.mis");
+
+    // A cancel says nothing and keeps the mission's names.
+    t.dialogs.QueueOpenCancel();
+    EXPECT_EQ(ChooseMissionToOpen(ed), -1);
+    EXPECT_TRUE(t.dialogs.messages.empty());
+    EXPECT_EQ(ed.doc.MissionFile, "new.mis");
 }
 
 }  // namespace
