@@ -5,6 +5,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QFileInfo>
 #include <QImage>
@@ -12,6 +13,7 @@
 #include <QListWidget>
 #include <QMenuBar>
 #include <QProcess>
+#include <QRadioButton>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
@@ -213,6 +215,48 @@ TEST_F(SkinTest, TypingReachesTheTextBoxAndKeepsTheCaret) {
     box.SetText("Escort");
     EXPECT_EQ(edit->text(), "Escort");
     EXPECT_EQ(changes, 6);
+}
+
+TEST_F(SkinTest, ClicksOnButtonsGoThroughTheModels) {
+    auto& frm = session->ed().FrmMission;
+    session->ShowTab(1);
+    QApplication::processEvents();
+    auto* check = qobject_cast<QCheckBox*>(Widget("chkPilotIsAC"));
+    ASSERT_NE(check, nullptr);
+    const int before = frm.chkPilotIsAC.Value();
+    QTest::mouseClick(check, Qt::LeftButton, {}, QPoint(6, check->height() / 2));
+    EXPECT_NE(frm.chkPilotIsAC.Value(), before);
+    EXPECT_EQ(check->isChecked(), frm.chkPilotIsAC.Value() == kChecked);
+
+    // An option of an array sets itself and clears its siblings, on screen as in the model.
+    auto* first = qobject_cast<QRadioButton*>(Widget("optAllegiance", 0));
+    ASSERT_NE(first, nullptr);
+    QTest::mouseClick(first, Qt::LeftButton, {}, QPoint(6, first->height() / 2));
+    for (int k = 0; k <= 3; ++k) {
+        EXPECT_EQ(frm.optAllegiance(k).Value(), k == 0) << k;
+        EXPECT_EQ(qobject_cast<QRadioButton*>(Widget("optAllegiance", k))->isChecked(), k == 0);
+    }
+}
+
+TEST_F(SkinTest, SharedFramesFollowTheTabOnShow) {
+    QWidget* airfields = Widget("fraAirfields");
+    QWidget* colours = Widget("fraPathColor");
+    auto* tabs = qobject_cast<QTabWidget*>(Widget("SSTab1"));
+    ASSERT_TRUE(airfields && colours && tabs);
+    struct Case {
+        int tab;
+        bool airfieldsShown, coloursShown;
+    };
+    const Case cases[] = {{0, false, false}, {1, true, false}, {2, false, true}, {3, true, true}};
+    for (const Case& c : cases) {
+        session->ShowTab(c.tab);
+        QApplication::processEvents();
+        EXPECT_EQ(airfields->isVisibleTo(tabs), c.airfieldsShown) << c.tab;
+        EXPECT_EQ(colours->isVisibleTo(tabs), c.coloursShown) << c.tab;
+        if (c.airfieldsShown) {
+            EXPECT_EQ(airfields->parentWidget(), tabs->widget(c.tab));
+        }
+    }
 }
 
 TEST(SkinServices, FileFiltersTakeQtsForm) {
