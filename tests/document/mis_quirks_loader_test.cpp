@@ -130,5 +130,13 @@ TEST_F(LoaderTest, LineEndsMayBeCrLfLfOrCr) {
     }
 }
 
+TEST_F(LoaderTest, AnImperialDisplayGetsTheFilesSpeedsInKnots) {
+    ed.options.Measurement = false;
+    LoadPath(SampleMission("channel_sweep.mis"));
+    ASSERT_TRUE(t.dialogs.messages.empty()) << LastReport();
+    EXPECT_EQ(ed.doc.WPSpeed(0, 1), 216);  // 400 km/h
+    EXPECT_EQ(ed.doc.WPSpeed(2, 2), 140);  // 260 km/h
+}
+
 }  // namespace
 }  // namespace tarvex::testing
