@@ -54,10 +54,10 @@ struct ChartPicture {
     double west, east, south, north;  // the region shown
 };
 
-// The splash is about 6000 by 4000 map units; the Summary tab's picture and the about box's
-// picture are panels of 4320 by 3240.
+// The splash is about 6000 by 4000 map units. The Summary tab's picture fills the upright
+// panel beside the read-outs, 3720 by 4620; the about box's picture is 4320 by 3240.
 constexpr ChartPicture kSplash{800, 533, -0.25, 2.0, 51.0, 51.95};
-constexpr ChartPicture kSummary{576, 432, 0.55, 2.45, 50.45, 51.42};
+constexpr ChartPicture kSummary{496, 616, 0.75, 2.3, 50.35, 51.55};
 constexpr int kLondonWidth = 576;
 constexpr int kLondonHeight = 432;
 
@@ -291,10 +291,10 @@ bool RenderSummary(const std::string& gmtDir, const std::string& outPath, std::s
     DrawPlace(painter, view, "Dover", 51.126, 1.313, 13);
     DrawPlace(painter, view, "Calais", 50.951, 1.858, 13);
     DrawPlace(painter, view, "Boulogne", 50.726, 1.614, 13, false);
-    DrawPlace(painter, view, "Dunkirk", 51.034, 2.377, 13, false);
     DrawPlace(painter, view, "Saint-Omer", 50.750, 2.252, 12, false);
     DrawPlace(painter, view, "Ashford", 51.146, 0.875, 12);
-    DrawPlace(painter, view, "Hastings", 50.856, 0.573, 12);
+    DrawPlace(painter, view, "Canterbury", 51.280, 1.079, 12);
+    DrawPlace(painter, view, "Deal", 51.223, 1.402, 12);
     DrawCentredText(painter, view.ToPixel(51.27, 1.85), "STRAIT OF DOVER",
                     ChartFont(13, false, true, 3), kSeaName);
 
@@ -318,7 +318,7 @@ bool RenderSummary(const std::string& gmtDir, const std::string& outPath, std::s
     painter.setPen(QPen(QColor(20, 20, 20), 1.4));
     painter.setBrush(QColor(255, 0, 0));
     painter.drawEllipse(view.ToPixel(route[0][0], route[0][1]), 6.4, 6.4);
-    DrawCompassRose(painter, view.ToPixel(50.64, 0.95), 40);
+    DrawCompassRose(painter, view.ToPixel(50.5, 1.1), 40);
     painter.setClipping(false);
     DrawFrame(painter, image.size());
     painter.end();
