@@ -82,7 +82,7 @@ void AtomicFileWriter::Commit() {
     bool ok = std::fflush(file_) == 0;
 #ifndef _WIN32
     // The new text must be on disk before the name points at it.
-    ok = ok && ::fsync(fileno(file_)) == 0;
+    ok = ok && ::fdatasync(fileno(file_)) == 0;
 #endif
     int failure = ok ? 0 : errno;
     if (std::fclose(file_) != 0 && ok) {

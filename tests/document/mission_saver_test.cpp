@@ -167,53 +167,35 @@ TEST(MissionSaverTest, AtomicWriterKeepsTheTargetWhenTheRenameFails) {
     fs::remove_all(folder);
 }
 
-TEST(MissionSaverTest, AsksForTheNameInTheMissionsFolder) {
+// Save asks for a name only when there is none, Save As always; the dialog starts in the
+// missions folder with the bare file name.
+TEST(MissionSaverTest, AsksForANameWhenNeeded) {
     SaveFixture f;
     f.ed.options.SimPath = "/sim/";
+    f.ed.doc.MissionPath.clear();
     f.ed.doc.MissionFile = "missions\\old.mis";
-    f.t.dialogs.QueueSave("/sim/missions/new.mis");
-    std::string path;
-    EXPECT_EQ(ChooseMissionToSave(f.ed, path), 0);
+    f.t.dialogs.QueueSaveCancel();
+    FileSave(f.ed);
     ASSERT_EQ(f.t.dialogs.saves.size(), 1u);
     const FileDialogRequest& request = f.t.dialogs.saves[0];
     EXPECT_EQ(request.title, "Save Mission Data");
     EXPECT_EQ(request.filter, "(*.mis)|*.mis");
     EXPECT_EQ(request.initDir, "/sim/missions");
     EXPECT_EQ(request.fileName, "old.mis");
-    EXPECT_EQ(path, "/sim/missions/new.mis");
-    EXPECT_EQ(f.ed.doc.MissionFile, "new.mis");
-
-    f.t.dialogs.QueueSaveCancel();
-    EXPECT_EQ(ChooseMissionToSave(f.ed, path), -1);
-    EXPECT_EQ(path, "/sim/missions/new.mis");
-    EXPECT_TRUE(f.t.dialogs.messages.empty());
-}
-
-TEST(MissionSaverTest, SaveAsksForANameOnlyWhenThereIsNone) {
-    SaveFixture f;
-    const fs::path other = f.folder / "other.mis";
-    f.ed.doc.MissionPath.clear();
-    f.t.dialogs.QueueSaveCancel();
-    FileSave(f.ed);
-    EXPECT_EQ(f.t.dialogs.saves.size(), 1u);
     EXPECT_TRUE(f.FolderNames().empty());
 
-    f.t.dialogs.QueueSave(other.string());
+    f.t.dialogs.QueueSave((f.folder / "other.mis").string());
     FileSave(f.ed);
-    FileSave(f.ed);  // the name stays: no second dialog
+    FileSave(f.ed);
     EXPECT_EQ(f.t.dialogs.saves.size(), 2u);
+    EXPECT_EQ(f.ed.doc.MissionFile, "other.mis");
     EXPECT_EQ(f.FolderNames(), (std::vector<std::string>{"other.mis", "other.txt"}));
-
-    f.t.dialogs.QueueSave(f.file.string());
-    FileSaveAs(f.ed);
-    EXPECT_EQ(f.t.dialogs.saves.size(), 3u);
-    EXPECT_TRUE(fs::exists(f.file));
 
     // A mission that validation refuses is neither named nor written.
     f.ed.FrmMission.txtTitle.SetText("");
     FileSaveAs(f.ed);
-    EXPECT_EQ(f.t.dialogs.saves.size(), 3u);
-    EXPECT_EQ(f.t.dialogs.LastMessage(), "SUMMARY TAB ERR: A Mission Title has not been provide");
+    EXPECT_EQ(f.t.dialogs.saves.size(), 2u);
+    EXPECT_EQ(f.t.dialogs.messages.size(), 1u);
 }
 
 }  // namespace

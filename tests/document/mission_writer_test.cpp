@@ -58,15 +58,6 @@ TEST(MissionWriterTest, TurnsKnotsIntoTheFilesKilometresPerHour) {
         EXPECT_EQ(FileSpeed(c.speed, c.metric), c.written) << c.speed;
 }
 
-// Text order of the sorting list, each id once, never 0.
-TEST(MissionWriterTest, ListsDistinctIdsInTextOrder) {
-    TestEditor t;
-    ComboBox& sort = t->FrmMission.cmbSort;
-    for (const char* id : {"9", "10", "0", "9", "113", "10", "4"})
-        sort.AddItem(id);
-    EXPECT_EQ(DistinctSortedIds(sort), (std::vector<std::int32_t>{10, 113, 4, 9}));
-}
-
 // A pattern with fewer stations than the group has pilots: the surplus pilots are units of
 // the file but stand in no formation.
 TEST(MissionWriterTest, WritesNoMoreStationsThanThePatternHas) {
