@@ -77,6 +77,17 @@ TEST(MissionWriterTest, WritesNoMoreStationsThanThePatternHas) {
     EXPECT_EQ(text.find("unit_id_position.2="), std::string::npos);
 }
 
+// Names leave in Windows-1252; what that code page lacks becomes "?".
+TEST(MissionWriterTest, WritesTextInTheSimulatorsCodePage) {
+    SavedMission m;
+    Editor& ed = m.Build(true);
+    ed.doc.PilotName(0, 1) =
+        "J\xC3\xB6rg \xC5\x81"
+        "aski";  // "Jörg Łaski"
+    SaveMission(ed);
+    EXPECT_NE(ReadBytes(m.file).find("\"name_string.1\"=J\xF6rg ?aski\r\n"), std::string::npos);
+}
+
 // What the file leaves out comes back from the reference database on a load, so the first
 // resave may differ; from then on saving what was loaded gives the same bytes.
 TEST(MissionWriterTest, ResavingAResavedMissionGivesTheSameBytes) {
