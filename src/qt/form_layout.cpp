@@ -235,20 +235,27 @@ FormLayout MissionFormLayout(const FrmMission&) {
 
 FormLayout FlowLayout(const Form& form) {
     FormLayout l;
+    const auto unplaced = [](const Control* control) {
+        return control->Width() == 0 && control->Height() == 0 && control->Left() == 0 &&
+               control->Top() == 0;
+    };
+    const float formWidth = std::max(form.Width(), 6000.0f);
+    const float bottom = std::max(form.Height(), 3600.0f) - 720;
+    // A grid takes the left of the window; the rest stands in columns on its right.
     float x = 120;
+    for (Control* control : form.Controls()) {
+        if (!unplaced(control) || !dynamic_cast<DataGrid*>(control)) continue;
+        const float w = formWidth - 5400;
+        l.places.push_back({control->Name(), control->Index(), "", x, 120, w, bottom - 120});
+        x += w + 120;
+    }
     float y = 120;
     float columnWidth = 0;
-    const float bottom = std::max(form.Height(), 3000.0f) - 600;
     for (Control* control : form.Controls()) {
-        if (control->Width() > 0 || control->Height() > 0 || control->Left() != 0 ||
-            control->Top() != 0)
-            continue;
-        float w = 2400;
+        if (!unplaced(control) || dynamic_cast<DataGrid*>(control)) continue;
+        float w = 2400;  // two such columns beside the grid
         float h = kCombo;
-        if (dynamic_cast<DataGrid*>(control)) {
-            w = std::max(form.Width(), 6000.0f) - 3000;
-            h = bottom - 120;
-        } else if (dynamic_cast<ListBox*>(control)) {
+        if (dynamic_cast<ListBox*>(control)) {
             h = 1200;
         } else if (dynamic_cast<PictureSurface*>(control)) {
             h = 600;

@@ -163,8 +163,14 @@ void FormView::SyncForm() {
     top->move(Px(form_.Left()), Px(form_.Top()));
     if (form_.Width() > 0 && form_.Height() > 0)
         top->resize(Px(form_.Width()), Px(form_.Height()));
-    else if (mode_ == Mode::Window)
-        top->resize(childrenRect().united(QRect(0, 0, 320, 200)).size() + QSize(8, 8));
+    else if (mode_ == Mode::Window) {
+        // Hidden children count too: the window opens with room for all of them.
+        QRect extent(0, 0, 320, 200);
+        for (QObject* child : children())
+            if (auto* widget = qobject_cast<QWidget*>(child); widget && widget != sharedHome_)
+                extent = extent.united(widget->geometry());
+        top->resize(extent.bottomRight().x() + 8, extent.bottomRight().y() + 8);
+    }
     top->setEnabled(form_.Enabled());
     top->setVisible(form_.Visible());
 }
