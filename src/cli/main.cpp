@@ -1,9 +1,96 @@
-// tarvex-mis: batch checks, resaves and exports of mission files on the editor's core.
-#include <cstdio>
+// tarvex-mis: the editor's mission commands without its window, for batches and scripts.
+#include <CLI/CLI.hpp>
+
+#include <exception>
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "cli/commands.h"
+
+namespace {
+
+using tarvex::cli::CommonOptions;
+
+void AddCommonOptions(CLI::App* command, CommonOptions& options) {
+    command->add_option("--db", options.database,
+                        "Reference database (default: the editor's, else the default "
+                        "installation's)");
+    command->add_option("--sim", options.simFolder,
+                        "Simulator folder (default: the editor's, else the default "
+                        "installation's)");
+    command->add_flag("--imperial", options.imperial,
+                      "Work in miles and knots, as the editor does with metric units off");
+}
+
+// One line, whatever the parser had to say.
+std::string OneLine(std::string text) {
+    for (char& c : text)
+        if (c == '\n' || c == '\r') c = ' ';
+    while (!text.empty() && text.back() == ' ')
+        text.pop_back();
+    return text;
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
-    (void)argv;
-    std::fputs("tarvex-mis: the mission commands (check, resave, export, info) are not built yet.\n",
-               argc > 1 ? stderr : stdout);
-    return argc > 1 ? 64 : 0;
+    CLI::App app{"Checks, resaves, exports and describes Tarvex mission files.", "tarvex-mis"};
+    app.require_subcommand(1);
+    app.set_version_flag("--version", "tarvex-mis 3.0.1");
+
+    CommonOptions options;
+    std::string in, out;
+    std::vector<std::string> files;
+    bool json = false;
+
+    CLI::App* resave = app.add_subcommand(
+        "resave",
+        "Open IN and save it as OUT, as File Open and File Save As do; the export "
+        "goes beside OUT. Exit 1: IN didn't load; 2: it failed validation, nothing "
+        "written; 3: the save failed.");
+    resave->add_option("IN", in, "Mission to open")->required();
+    resave->add_option("OUT", out, "Mission file to write")->required();
+    AddCommonOptions(resave, options);
+
+    CLI::App* check = app.add_subcommand(
+        "check",
+        "Load and validate missions (a folder stands for its .mis files) on a copy of "
+        "the database. Exit 0 only when all pass.");
+    check->add_option("FILE", files, "Missions or folders")->required();
+    AddCommonOptions(check, options);
+
+    CLI::App* exportCommand = app.add_subcommand(
+        "export",
+        "Write the spreadsheet export of IN beside it (the same name ending in txt), on "
+        "a copy of the database.");
+    exportCommand->add_option("IN", in, "Mission to export")->required();
+    AddCommonOptions(exportCommand, options);
+
+    CLI::App* info = app.add_subcommand(
+        "info",
+        "Describe IN: title, map, time, groups, paths and layouts, on a copy of the "
+        "database.");
+    info->add_option("IN", in, "Mission to describe")->required();
+    info->add_flag("--json", json, "Print JSON");
+    AddCommonOptions(info, options);
+
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& e) {
+        if (e.get_exit_code() == 0) return app.exit(e);
+        std::cerr << "tarvex-mis: " << OneLine(e.what()) << " (see tarvex-mis --help)\n";
+        return tarvex::cli::kExitUsage;
+    }
+
+    try {
+        if (*resave) return tarvex::cli::RunResave(options, in, out, std::cout, std::cerr);
+        if (*check) return tarvex::cli::RunCheck(options, files, std::cout, std::cerr);
+        if (*exportCommand) return tarvex::cli::RunExport(options, in, std::cout, std::cerr);
+        return tarvex::cli::RunInfo(options, in, json, std::cout, std::cerr);
+    } catch (const std::exception& e) {
+        // The commands report what they expect; this is for what nobody did.
+        std::cerr << "tarvex-mis: " << e.what() << "\n";
+        return 70;
+    }
 }

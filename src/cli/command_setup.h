@@ -1,0 +1,24 @@
+#pragma once
+// What the commands share: the folders they run on and the start of the headless editor.
+#include <iosfwd>
+#include <memory>
+#include <string>
+
+#include "cli/commands.h"
+#include "cli/headless_editor.h"
+#include "cli/scratch_database.h"
+
+namespace tarvex::cli {
+
+// The folders of a run, made absolute before the editor moves the current folder.
+EditorFolders ResolveFolders(const CommonOptions& options);
+
+// An editor started on the folders; with `scratch`, on a private copy of the database that
+// `copy` keeps alive. Null after a message on `err` when the database can't be used.
+std::unique_ptr<HeadlessEditor> StartEditor(const CommonOptions& options, bool scratch,
+                                            ScratchDatabase& copy, std::ostream& err);
+
+// The report as lines under a heading, indented.
+std::string Indented(const std::string& text, const std::string& indent);
+
+}  // namespace tarvex::cli

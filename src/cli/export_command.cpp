@@ -1,0 +1,31 @@
+#include <ostream>
+
+#include "cli/command_setup.h"
+#include "cli/commands.h"
+#include "cli/install_folders.h"
+#include "cli/mission_session.h"
+
+namespace tarvex::cli {
+
+int RunExport(const CommonOptions& options, const std::string& in, std::ostream& cout,
+              std::ostream& cerr) {
+    const std::string inPath = AbsolutePath(in);
+    ScratchDatabase copy;
+    auto editor = StartEditor(options, true, copy, cerr);
+    if (!editor) return kExitNoDatabase;
+
+    const Outcome load = OpenMission(*editor, inPath);
+    if (!load.ok) {
+        cerr << in << ": " << load.report << "\n";
+        return kExitLoadFailed;
+    }
+    const Outcome exported = ExportLoadedMission(*editor);
+    if (!exported.ok) {
+        cerr << in << ": export failed: " << exported.report << "\n";
+        return kExitSaveFailed;
+    }
+    cout << "Wrote " << ExportPathOf(inPath) << "\n";
+    return kExitOk;
+}
+
+}  // namespace tarvex::cli

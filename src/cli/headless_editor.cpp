@@ -1,0 +1,55 @@
+#include "cli/headless_editor.h"
+
+#include <filesystem>
+#include <system_error>
+
+#include "shell/settings.h"
+#include "shell/startup.h"
+
+namespace tarvex::cli {
+
+HeadlessEditor::HeadlessEditor()
+    : editor_(std::make_unique<Editor>(
+          Services{dialogs_, sound_, settings_, registry_, instance_, clock_})) {}
+
+HeadlessEditor::~HeadlessEditor() {
+    if (editor_) editor_->db.CloseReferenceDatabase();
+}
+
+bool HeadlessEditor::Start(const EditorFolders& folders, bool metric, std::string& error) {
+    std::error_code fsError;
+    if (!std::filesystem::is_regular_file(folders.database, fsError)) {
+        error = "database not found: " + folders.database;
+        return false;
+    }
+    auto put = [&](const char* key, const std::string& value) {
+        settings_.values[{kSettingsApp, kSettingsSection, key}] = value;
+    };
+    // A later run of the editor: "Path" is there, "Last Tab" isn't, so the Summary shows.
+    put("Path", folders.simFolder);
+    put("Sortak DB", folders.database);
+    put("Sortak Map", folders.mapFolder);
+    put("Measurement", metric ? "True" : "False");
+    put("Sound On", "False");
+
+    Editor& ed = *editor_;
+    ReadSettings(ed);
+    // The splash is left out: it only shows a picture, and a missing one would ask a question.
+    if (!LoadMainWindow(ed)) {
+        error.clear();
+        for (const MessageBoxRequest& box : TakeMessages())
+            error += (error.empty() ? "" : "\n") + box.title + ": " + box.text;
+        if (error.empty()) error = "cannot open the database " + folders.database;
+        return false;
+    }
+    dialogs_.ClearRecord();
+    return true;
+}
+
+std::vector<MessageBoxRequest> HeadlessEditor::TakeMessages() {
+    std::vector<MessageBoxRequest> shown;
+    shown.swap(dialogs_.messages);
+    return shown;
+}
+
+}  // namespace tarvex::cli

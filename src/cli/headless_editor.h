@@ -1,0 +1,47 @@
+#pragma once
+// The editor without a window: scripted desktop services and the start-up that fills the
+// lists and combos, ending on the Summary tab as a start with no remembered tab does. Every
+// box the program shows is kept, so that a command can print it.
+#include <memory>
+#include <string>
+
+#include "shell/editor.h"
+#include "shell/scripted_platform.h"
+
+namespace tarvex::cli {
+
+struct EditorFolders {
+    std::string database;   // absolute
+    std::string simFolder;  // absolute, with a trailing separator
+    std::string mapFolder;  // absolute, with a trailing separator
+};
+
+class HeadlessEditor {
+  public:
+    HeadlessEditor();
+    HeadlessEditor(const HeadlessEditor&) = delete;
+    HeadlessEditor& operator=(const HeadlessEditor&) = delete;
+    ~HeadlessEditor();
+
+    // Reads the settings made of the folders and the unit system, and loads the main window.
+    // Changes the process's current folder to the simulator's. False, with the boxes shown
+    // or the reason in `error`, when the database can't be used.
+    bool Start(const EditorFolders& folders, bool metric, std::string& error);
+
+    Editor& ed() { return *editor_; }
+    ScriptedDialogs& dialogs() { return dialogs_; }
+
+    // The boxes shown since the last call, forgotten once read.
+    std::vector<MessageBoxRequest> TakeMessages();
+
+  private:
+    ScriptedDialogs dialogs_;
+    ScriptedSoundEngine sound_;
+    MemorySettingsStore settings_;
+    ScriptedRegistry registry_;
+    ScriptedInstanceChannel instance_;
+    ScriptedClock clock_;
+    std::unique_ptr<Editor> editor_;
+};
+
+}  // namespace tarvex::cli
