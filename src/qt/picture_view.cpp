@@ -66,7 +66,18 @@ void PictureView::paintEvent(QPaintEvent*) {
         loaded_ = picture;
         image_ = picture.isEmpty() ? QImage() : QImage(picture);
     }
-    if (!image_.isNull()) painter.drawImage(0, 0, image_);
+    if (!image_.isNull()) {
+        // A bitmap covers its size in map units (pixels x 1440 / its dots per inch), which is
+        // what the projection works in; a dense bitmap is drawn smaller and stays sharp.
+        const auto logical = [](int pixels, int dotsPerMetre) {
+            const double dpi = dotsPerMetre > 0 ? dotsPerMetre * 0.0254 : 96.0;
+            return pixels * 96.0 / dpi;
+        };
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawImage(QRectF(0, 0, logical(image_.width(), image_.dotsPerMeterX()),
+                                 logical(image_.height(), image_.dotsPerMeterY())),
+                          image_);
+    }
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setRenderHint(QPainter::TextAntialiasing);
     const QFontMetricsF metrics(font());

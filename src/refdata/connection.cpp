@@ -90,6 +90,11 @@ Connection::Connection(const std::string& path) : path_(path) {
         }
         Raise(kErrSqlFailed, message);
     }
+    // A write-ahead log makes each commit (a mission load adds layouts) cheap, and lets a
+    // second running copy read while this one writes. A folder where the log can't be made
+    // keeps the plain journal.
+    sqlite3_exec(db_, "PRAGMA journal_mode = WAL; PRAGMA synchronous = NORMAL;", nullptr, nullptr,
+                 nullptr);
 }
 
 Connection::~Connection() {
