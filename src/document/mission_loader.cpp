@@ -12,6 +12,7 @@
 #include "document/mis_text.h"
 #include "ground/ground_reconstruction.h"
 #include "maps/map_loading.h"
+#include "refdata/transaction.h"
 #include "shell/editor.h"
 #include "shell/measurement.h"
 #include "shell/message_screen.h"
@@ -29,37 +30,6 @@ void EndLoadMessage(Editor& ed) {
     ed.MDIMissionED.SetMousePointer(kDefaultPointer);
     CloseMessageScreen(ed);
 }
-
-// The layouts a load adds or drops are written in one transaction, so that a load costs one
-// write to disk and not one per unit. What was written stays, also when the load fails.
-class LoadTransaction {
-  public:
-    explicit LoadTransaction(Database& db) : db_(db) {
-        try {
-            db_.Execute("BEGIN");
-            open_ = true;
-        } catch (const AppError&) {
-            // Without a transaction each statement stands on its own, which is only slower.
-        }
-    }
-    ~LoadTransaction() { Commit(); }
-    // Ends the transaction, keeping what was written; before the tabs are rebuilt and before
-    // a report is shown, so that no other copy of the program waits on a dialog.
-    void Commit() noexcept {
-        if (!open_) return;
-        open_ = false;
-        try {
-            db_.Execute("COMMIT");
-        } catch (...) {
-        }
-    }
-    LoadTransaction(const LoadTransaction&) = delete;
-    LoadTransaction& operator=(const LoadTransaction&) = delete;
-
-  private:
-    Database& db_;
-    bool open_ = false;
-};
 
 std::string ReadWholeFile(const std::string& path) {
     std::ifstream in(path, std::ios::binary);
@@ -215,7 +185,9 @@ int ChooseMissionToOpen(Editor& ed) {
 
 void LoadMission(Editor& ed) {
     ShowMessageScreen(ed, "Loading Mission File");
-    LoadTransaction transaction(ed.db.theDB);
+    // The layouts a load adds or drops go to disk in one commit; what was written stays,
+    // also when the load fails.
+    Transaction transaction(ed.db.theDB);
     try {
         StartLoadState(ed);
         ed.loader.PendingLayoutID = NewUnnamedLayout(ed);

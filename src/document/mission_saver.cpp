@@ -12,6 +12,7 @@
 #include "document/mission_export.h"
 #include "document/mission_validation.h"
 #include "document/mission_writers.h"
+#include "refdata/transaction.h"
 #include "shell/editor.h"
 #include "shell/program_version.h"
 #include "shell/recent_files.h"
@@ -59,36 +60,10 @@ constexpr WriterStep kWriterSteps[] = {
     {"Saving String Data", WriteStringsSection},
 };
 
-// All lookups of a save read one state of the reference database, and the engine takes its
-// file lock once instead of once per lookup. A database that can't start one is read
-// lookup by lookup as usual.
-class ReadTransaction {
-  public:
-    explicit ReadTransaction(Database& db) : db_(db) {
-        try {
-            db_.Execute("BEGIN");
-            open_ = true;
-        } catch (const AppError&) {
-        }
-    }
-    ~ReadTransaction() {
-        if (!open_) return;
-        try {
-            db_.Execute("COMMIT");
-        } catch (const AppError&) {
-        }
-    }
-    ReadTransaction(const ReadTransaction&) = delete;
-    ReadTransaction& operator=(const ReadTransaction&) = delete;
-
-  private:
-    Database& db_;
-    bool open_ = false;
-};
-
 // The mission file and its export; any failure is raised to the save report.
 void WriteMissionFiles(Editor& ed) {
-    ReadTransaction snapshot(ed.db.theDB);
+    // All lookups of a save read one state of the reference database.
+    Transaction snapshot(ed.db.theDB);
     ed.StepText = "Opening file for Save.";
     ed.StepDetail.clear();
     AtomicFileWriter file(ed.doc.MissionPath);
