@@ -1,6 +1,7 @@
 // The desktop editor: the Qt services, the editor and its windows.
 //   tarvex-editor [--screenshot FILE [--tab N]] [MISSION.mis]
 #include <QApplication>
+#include <QFileInfo>
 #include <QFont>
 #include <cstdio>
 
@@ -25,6 +26,10 @@ int main(int argc, char** argv) {
             screenshot = args[++i];
         else if (args[i] == "--tab" && i + 1 < args.size())
             tab = args[++i].toInt();
+        else if (QFileInfo::exists(args[i]))
+            // Start-up moves to the simulator's folder, so a file named from outside is
+            // taken from the folder the editor was started in.
+            rest << QFileInfo(args[i]).absoluteFilePath();
         else
             rest << args[i];
     }
