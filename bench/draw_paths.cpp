@@ -15,13 +15,8 @@ namespace {
 using namespace tarvex;
 
 void BM_DrawPathsFullMap(benchmark::State& state) {
-    ScriptedDialogs dialogs;
-    ScriptedSoundEngine sound;
-    MemorySettingsStore settings;
-    ScriptedRegistry registry;
-    ScriptedInstanceChannel instance;
-    ScriptedClock clock;
-    Editor ed(Services{dialogs, sound, settings, registry, instance, clock});
+    ScriptedServices services;
+    Editor ed(services.Bind());
     auto& frm = ed.FrmMission;
     ed.projection.SetDistanceUnits(true);
     ed.projection.SetMap(5, 8000, 6000);

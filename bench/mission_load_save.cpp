@@ -35,13 +35,7 @@ std::string ReadAll(const fs::path& file) {
 }
 
 // A started editor on a fresh database in a temporary folder of its own.
-struct Bench {
-    ScriptedDialogs dialogs;
-    ScriptedSoundEngine sound;
-    MemorySettingsStore settings;
-    ScriptedRegistry registry;
-    ScriptedInstanceChannel instance;
-    ScriptedClock clock;
+struct Bench : ScriptedServices {
     std::unique_ptr<Editor> ed;
     fs::path folder;
 
@@ -65,8 +59,7 @@ struct Bench {
         put("Sortak DB", db.string());
         put("Sortak Map", (fs::path(TARVEX_SOURCE_DIR) / "data" / "maps").string() + "/");
         put("Measurement", "True");
-        ed =
-            std::make_unique<Editor>(Services{dialogs, sound, settings, registry, instance, clock});
+        ed = std::make_unique<Editor>(Bind());
         ReadSettings(*ed);
         if (!LoadMainWindow(*ed)) throw std::runtime_error("the editor did not start");
     }

@@ -19,20 +19,15 @@ void BM_StartProgram(benchmark::State& state) {
         std::filesystem::path(TARVEX_BINARY_DIR) / "default-install";
     const std::filesystem::path home = std::filesystem::current_path();
     for (auto _ : state) {
-        ScriptedDialogs dialogs;
-        ScriptedSoundEngine sound;
-        MemorySettingsStore settings;
-        ScriptedRegistry registry;
-        ScriptedInstanceChannel instance;
-        ScriptedClock clock;
+        ScriptedServices services;
         const auto put = [&](const char* key, const std::string& value) {
-            settings.Save(kSettingsApp, kSettingsSection, key, value);
+            services.settings.Save(kSettingsApp, kSettingsSection, key, value);
         };
         put("Path", (install / "Tarvex").string() + "/");
         put("Sortak DB", (install / "Sortak" / "Sortak Data" / "Tarvex Missions.mdb").string());
         put("Sortak Map", (install / "Sortak" / "Sortak Maps").string() + "/");
         put("Last Tab", "3");
-        Editor ed(Services{dialogs, sound, settings, registry, instance, clock});
+        Editor ed(services.Bind());
         if (!StartProgram(ed, "", true)) state.SkipWithError("start-up ended the program");
         benchmark::DoNotOptimize(ed.FrmMission.cmbMovingType.ListCount());
         std::filesystem::current_path(home);

@@ -30,13 +30,7 @@ std::string ReadAll(const fs::path& file) {
 }
 
 // One started editor for the whole run; each input gets a fresh document.
-struct Harness {
-    ScriptedDialogs dialogs;
-    ScriptedSoundEngine sound;
-    MemorySettingsStore settings;
-    ScriptedRegistry registry;
-    ScriptedInstanceChannel instance;
-    ScriptedClock clock;
+struct Harness : ScriptedServices {
     std::unique_ptr<Editor> ed;
     fs::path folder;
     fs::path mission;
@@ -66,8 +60,7 @@ struct Harness {
         // No bitmaps: a map that can't be loaded leaves a plain surface, and the run stays fast.
         put("Sortak Map", (folder / "maps").string() + "/");
         put("Measurement", "True");
-        ed =
-            std::make_unique<Editor>(Services{dialogs, sound, settings, registry, instance, clock});
+        ed = std::make_unique<Editor>(Bind());
         ReadSettings(*ed);
         if (!LoadMainWindow(*ed)) std::abort();
     }

@@ -8,9 +8,7 @@
 
 namespace tarvex::cli {
 
-HeadlessEditor::HeadlessEditor()
-    : editor_(std::make_unique<Editor>(
-          Services{dialogs_, sound_, settings_, registry_, instance_, clock_})) {}
+HeadlessEditor::HeadlessEditor() : editor_(std::make_unique<Editor>(services_.Bind())) {}
 
 HeadlessEditor::~HeadlessEditor() {
     if (editor_) editor_->db.CloseReferenceDatabase();
@@ -23,7 +21,7 @@ bool HeadlessEditor::Start(const EditorFolders& folders, bool metric, std::strin
         return false;
     }
     auto put = [&](const char* key, const std::string& value) {
-        settings_.values[{kSettingsApp, kSettingsSection, key}] = value;
+        services_.settings.values[{kSettingsApp, kSettingsSection, key}] = value;
     };
     // A later run of the editor: "Path" is there, "Last Tab" isn't, so the Summary shows.
     put("Path", folders.simFolder);
@@ -42,13 +40,13 @@ bool HeadlessEditor::Start(const EditorFolders& folders, bool metric, std::strin
         if (error.empty()) error = "cannot open the database " + folders.database;
         return false;
     }
-    dialogs_.ClearRecord();
+    services_.dialogs.ClearRecord();
     return true;
 }
 
 std::vector<MessageBoxRequest> HeadlessEditor::TakeMessages() {
     std::vector<MessageBoxRequest> shown;
-    shown.swap(dialogs_.messages);
+    shown.swap(services_.dialogs.messages);
     return shown;
 }
 

@@ -29,18 +29,13 @@ class HeadlessEditor {
     bool Start(const EditorFolders& folders, bool metric, std::string& error);
 
     Editor& ed() { return *editor_; }
-    ScriptedDialogs& dialogs() { return dialogs_; }
+    ScriptedDialogs& dialogs() { return services_.dialogs; }
 
     // The boxes shown since the last call, forgotten once read.
     std::vector<MessageBoxRequest> TakeMessages();
 
   private:
-    ScriptedDialogs dialogs_;
-    ScriptedSoundEngine sound_;
-    MemorySettingsStore settings_;
-    ScriptedRegistry registry_;
-    ScriptedInstanceChannel instance_;
-    ScriptedClock clock_;
+    ScriptedServices services_;
     std::unique_ptr<Editor> editor_;
 };
 

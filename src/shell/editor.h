@@ -28,16 +28,6 @@
 
 namespace tarvex {
 
-// The desktop as the program sees it. The services outlive the Editor.
-struct Services {
-    Dialogs& dialogs;
-    SoundEngine& sound;
-    SettingsStore& settings;
-    Registry& registry;
-    InstanceChannel& instance;
-    Clock& clock;
-};
-
 class Editor {
   public:
     explicit Editor(Services services);

@@ -45,7 +45,7 @@ struct FileDialogResult {
 };
 
 class Dialogs {
-public:
+  public:
     virtual ~Dialogs() = default;
     virtual MsgAnswer MsgBox(const MessageBoxRequest& request) = 0;
     // An input box answers the empty text when cancelled, as the desktop's does.
@@ -57,7 +57,7 @@ public:
 // ---- Sound ---------------------------------------------------------------------------------
 
 class SoundEngine {
-public:
+  public:
     virtual ~SoundEngine() = default;
     // Loads a wave file; 0 when it could not be loaded. A missing file or a machine without
     // audio is silent, never an error.
@@ -70,7 +70,7 @@ public:
 // ---- Settings ------------------------------------------------------------------------------
 
 class SettingsStore {
-public:
+  public:
     virtual ~SettingsStore() = default;
     virtual std::optional<std::string> Get(const std::string& app, const std::string& section,
                                            const std::string& key) const = 0;
@@ -85,7 +85,7 @@ public:
 enum class RegistryRoot { CurrentUser, LocalMachine };
 
 class Registry {
-public:
+  public:
     virtual ~Registry() = default;
     // The value's text without its terminating zero, or the empty text when the key or the
     // value can't be read.
@@ -96,7 +96,7 @@ public:
 // ---- Second copy ---------------------------------------------------------------------------
 
 class InstanceChannel {
-public:
+  public:
     virtual ~InstanceChannel() = default;
     virtual bool PrevInstance() const = 0;
     // Whether a top-level window of another copy has exactly this caption.
@@ -116,11 +116,23 @@ struct DateTime {
 };
 
 class Clock {
-public:
+  public:
     virtual ~Clock() = default;
     virtual DateTime Now() const = 0;
     // Lets pending events run (timers, repaints) during a long operation.
     virtual void DoEvents() = 0;
+};
+
+// ---- All of them ---------------------------------------------------------------------------
+
+// The desktop as the program sees it. The services outlive the Editor that uses them.
+struct Services {
+    Dialogs& dialogs;
+    SoundEngine& sound;
+    SettingsStore& settings;
+    Registry& registry;
+    InstanceChannel& instance;
+    Clock& clock;
 };
 
 }  // namespace tarvex

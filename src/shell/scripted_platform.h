@@ -125,4 +125,17 @@ class ScriptedClock : public Clock {
     std::function<void()> onDoEvents;
 };
 
+// All six together, for an Editor that runs without a desktop: tests, benchmarks, the fuzzer,
+// the command-line tool and the generators.
+struct ScriptedServices {
+    ScriptedDialogs dialogs;
+    ScriptedSoundEngine sound;
+    MemorySettingsStore settings;
+    ScriptedRegistry registry;
+    ScriptedInstanceChannel instance;
+    ScriptedClock clock;
+
+    Services Bind() { return Services{dialogs, sound, settings, registry, instance, clock}; }
+};
+
 }  // namespace tarvex

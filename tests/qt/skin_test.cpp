@@ -29,7 +29,7 @@
 namespace tarvex::qt {
 namespace {
 
-class SkinTest : public ::testing::Test {
+class SkinTest : public ::testing::Test, public ScriptedServices {
   protected:
     void SetUp() override {
         folder = testing::MakeTestFolder("skin");
@@ -41,8 +41,7 @@ class SkinTest : public ::testing::Test {
         settings.Save("Sortak", options, "Sortak DB", db.string());
         settings.Save("Sortak", options, "Sortak Map",
                       std::string(TARVEX_BINARY_DIR) + "/default-install/Sortak/Sortak Maps/");
-        session = std::make_unique<EditorSession>(
-            Services{dialogs, sound, settings, registry, instance, clock});
+        session = std::make_unique<EditorSession>(Bind());
         ASSERT_TRUE(session->Start({}, true));
         session->window().show();
         QApplication::processEvents();
@@ -57,12 +56,6 @@ class SkinTest : public ::testing::Test {
     }
 
     std::filesystem::path folder;
-    ScriptedDialogs dialogs;
-    ScriptedSoundEngine sound;
-    MemorySettingsStore settings;
-    ScriptedRegistry registry;
-    ScriptedInstanceChannel instance;
-    ScriptedClock clock;
     std::unique_ptr<EditorSession> session;
 };
 

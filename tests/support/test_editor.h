@@ -10,13 +10,7 @@
 
 namespace tarvex::testing {
 
-struct TestEditor {
-    ScriptedDialogs dialogs;
-    ScriptedSoundEngine sound;
-    MemorySettingsStore settings;
-    ScriptedRegistry registry;
-    ScriptedInstanceChannel instance;
-    ScriptedClock clock;
+struct TestEditor : ScriptedServices {
     std::unique_ptr<Editor> editor;
 
     TestEditor() { Rebuild(); }
@@ -24,8 +18,7 @@ struct TestEditor {
     // A new Editor on the same services, for tests that script the services first.
     Editor& Rebuild() {
         editor.reset();
-        editor =
-            std::make_unique<Editor>(Services{dialogs, sound, settings, registry, instance, clock});
+        editor = std::make_unique<Editor>(Bind());
         return *editor;
     }
 

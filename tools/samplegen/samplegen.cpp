@@ -522,13 +522,8 @@ void WriteAircraft(const fs::path& folder, const std::string& shortName,
 }
 
 int Run(const std::string& database, const fs::path& simFolder) {
-    ScriptedDialogs dialogs;
-    ScriptedSoundEngine sound;
-    MemorySettingsStore settings;
-    ScriptedRegistry registry;
-    ScriptedInstanceChannel instance;
-    ScriptedClock clock;
-    Editor ed(Services{dialogs, sound, settings, registry, instance, clock});
+    ScriptedServices services;
+    Editor ed(services.Bind());
     ed.db.DBPath = database;
     ed.db.theDB.Open(database);
 
@@ -545,20 +540,20 @@ int Run(const std::string& database, const fs::path& simFolder) {
     int failures = 0;
     for (const Sample& sample : Samples()) {
         Build(ed, sample);
-        dialogs.ClearRecord();
+        services.dialogs.ClearRecord();
         if (!ValidateMission(ed)) {
-            std::cerr << sample.file << ": " << dialogs.LastMessage() << "\n";
+            std::cerr << sample.file << ": " << services.dialogs.LastMessage() << "\n";
             ++failures;
             continue;
         }
         ed.doc.MissionPath = (missions / sample.file).string();
         ed.doc.MissionFile = sample.file;
         SaveMission(ed);
-        for (const MessageBoxRequest& box : dialogs.messages) {
+        for (const MessageBoxRequest& box : services.dialogs.messages) {
             std::cerr << sample.file << ": " << box.title << ": " << box.text << "\n";
             ++failures;
         }
-        dialogs.ClearRecord();
+        services.dialogs.ClearRecord();
         std::cout << "Wrote " << sample.file << "\n";
     }
     ed.db.CloseReferenceDatabase();
