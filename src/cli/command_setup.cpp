@@ -3,6 +3,7 @@
 #include <ostream>
 
 #include "cli/install_folders.h"
+#include "cli/mission_session.h"
 
 namespace tarvex::cli {
 
@@ -31,6 +32,24 @@ std::unique_ptr<HeadlessEditor> StartEditor(const CommonOptions& options, bool s
     auto editor = std::make_unique<HeadlessEditor>();
     if (!editor->Start(folders, !options.imperial, error)) {
         err << "tarvex-mis: " << error << "\n";
+        return nullptr;
+    }
+    return editor;
+}
+
+std::unique_ptr<HeadlessEditor> StartWithMission(const CommonOptions& options, bool scratch,
+                                                 ScratchDatabase& copy, const std::string& in,
+                                                 std::ostream& err, int& exitCode) {
+    const std::string inPath = AbsolutePath(in);
+    auto editor = StartEditor(options, scratch, copy, err);
+    if (!editor) {
+        exitCode = kExitNoDatabase;
+        return nullptr;
+    }
+    const Outcome load = OpenMission(*editor, inPath);
+    if (!load.ok) {
+        err << in << ": " << load.report << "\n";
+        exitCode = kExitLoadFailed;
         return nullptr;
     }
     return editor;

@@ -18,6 +18,12 @@ EditorFolders ResolveFolders(const CommonOptions& options);
 std::unique_ptr<HeadlessEditor> StartEditor(const CommonOptions& options, bool scratch,
                                             ScratchDatabase& copy, std::ostream& err);
 
+// StartEditor, then File Open of `in`. Null with `exitCode` set, after the reason or the load
+// report on `err`, when either fails.
+std::unique_ptr<HeadlessEditor> StartWithMission(const CommonOptions& options, bool scratch,
+                                                 ScratchDatabase& copy, const std::string& in,
+                                                 std::ostream& err, int& exitCode);
+
 // The report as lines under a heading, indented.
 std::string Indented(const std::string& text, const std::string& indent);
 

@@ -11,14 +11,9 @@ int RunExport(const CommonOptions& options, const std::string& in, std::ostream&
               std::ostream& cerr) {
     const std::string inPath = AbsolutePath(in);
     ScratchDatabase copy;
-    auto editor = StartEditor(options, true, copy, cerr);
-    if (!editor) return kExitNoDatabase;
-
-    const Outcome load = OpenMission(*editor, inPath);
-    if (!load.ok) {
-        cerr << in << ": " << load.report << "\n";
-        return kExitLoadFailed;
-    }
+    int exitCode = kExitOk;
+    auto editor = StartWithMission(options, true, copy, in, cerr, exitCode);
+    if (!editor) return exitCode;
     const Outcome exported = ExportLoadedMission(*editor);
     if (!exported.ok) {
         cerr << in << ": export failed: " << exported.report << "\n";

@@ -10,16 +10,10 @@ namespace tarvex::cli {
 
 int RunInfo(const CommonOptions& options, const std::string& in, bool json, std::ostream& cout,
             std::ostream& cerr) {
-    const std::string inPath = AbsolutePath(in);
     ScratchDatabase copy;
-    auto editor = StartEditor(options, true, copy, cerr);
-    if (!editor) return kExitNoDatabase;
-
-    const Outcome load = OpenMission(*editor, inPath);
-    if (!load.ok) {
-        cerr << in << ": " << load.report << "\n";
-        return kExitLoadFailed;
-    }
+    int exitCode = kExitOk;
+    auto editor = StartWithMission(options, true, copy, in, cerr, exitCode);
+    if (!editor) return exitCode;
     const MissionInfo info = CollectMissionInfo(editor->ed());
     cout << (json ? FormatInfoJson(info) : FormatInfoText(info));
     return kExitOk;

@@ -9,17 +9,11 @@ namespace tarvex::cli {
 
 int RunResave(const CommonOptions& options, const std::string& in, const std::string& out,
               std::ostream& cout, std::ostream& cerr) {
-    const std::string inPath = AbsolutePath(in);
     const std::string outPath = AbsolutePath(out);
     ScratchDatabase unused;
-    auto editor = StartEditor(options, false, unused, cerr);
-    if (!editor) return kExitNoDatabase;
-
-    const Outcome load = OpenMission(*editor, inPath);
-    if (!load.ok) {
-        cerr << in << ": " << load.report << "\n";
-        return kExitLoadFailed;
-    }
+    int exitCode = kExitOk;
+    auto editor = StartWithMission(options, false, unused, in, cerr, exitCode);
+    if (!editor) return exitCode;
     bool validationFailed = false;
     const Outcome save = SaveMissionAs(*editor, outPath, validationFailed);
     if (!save.ok) {
