@@ -5,10 +5,11 @@
 
 #include <string>
 
+#include "app/make_editor.h"
 #include "common/number_text.h"
 #include "maps/path_drawing.h"
-#include "shell/editor.h"
-#include "shell/scripted_platform.h"
+#include "platform/scripted_platform.h"
+#include "shell/forms/frm_mission.h"
 
 namespace {
 
@@ -16,7 +17,8 @@ using namespace tarvex;
 
 void BM_DrawPathsFullMap(benchmark::State& state) {
     ScriptedServices services;
-    Editor ed(services.Bind());
+    auto editor = MakeEditor(services.Bind());
+    Editor& ed = *editor;
     auto& frm = ed.FrmMission;
     ed.projection.SetDistanceUnits(true);
     ed.projection.SetMap(5, 8000, 6000);

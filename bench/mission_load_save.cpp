@@ -4,8 +4,6 @@
 // and save within 10 ms each; a typical one (4 groups, 12 pilots, 4 paths, 5 layouts) within
 // 2 ms.
 #include <benchmark/benchmark.h>
-#include <sqlite3.h>
-#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
@@ -15,59 +13,32 @@
 #include <string>
 #include <vector>
 
+#include "app/scratch_editor.h"
 #include "common/number_text.h"
 #include "document/mission_loader.h"
 #include "document/mission_reset.h"
 #include "document/mission_saver.h"
-#include "shell/editor.h"
-#include "shell/scripted_platform.h"
-#include "shell/settings.h"
-#include "shell/startup.h"
+#include "shell/forms/frm_mission.h"
 
 namespace {
 
 using namespace tarvex;
 namespace fs = std::filesystem;
 
-std::string ReadAll(const fs::path& file) {
-    std::ifstream in(file, std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
-}
-
 // A started editor on a fresh database in a temporary folder of its own.
-struct Bench : ScriptedServices {
-    std::unique_ptr<Editor> ed;
+struct Bench : ScratchEditor {
+    Editor* ed;
     fs::path folder;
 
-    Bench() {
-        std::string pattern = (fs::temp_directory_path() / "tarvex-bench-XXXXXX").string();
-        if (!::mkdtemp(pattern.data())) throw std::runtime_error("no temporary folder");
-        folder = pattern;
-        const fs::path db = folder / "Tarvex Missions.mdb";
-        const fs::path refdb = fs::path(TARVEX_SOURCE_DIR) / "data" / "refdb";
-        sqlite3* handle = nullptr;
-        sqlite3_open(db.string().c_str(), &handle);
-        for (const char* script : {"schema.sql", "seed.sql"})
-            sqlite3_exec(handle, ReadAll(refdb / script).c_str(), nullptr, nullptr, nullptr);
-        sqlite3_close(handle);
-        fs::create_directories(folder / "sim" / "missions");
-
-        auto put = [&](const char* key, const std::string& value) {
-            settings.values[{kSettingsApp, kSettingsSection, key}] = value;
-        };
-        put("Path", (folder / "sim").string() + "/");
-        put("Sortak DB", db.string());
-        put("Sortak Map", (fs::path(TARVEX_SOURCE_DIR) / "data" / "maps").string() + "/");
-        put("Measurement", "True");
-        ed = std::make_unique<Editor>(Bind());
-        ReadSettings(*ed);
-        if (!LoadMainWindow(*ed)) throw std::runtime_error("the editor did not start");
-    }
-    ~Bench() {
-        ed.reset();
-        std::error_code ignored;
-        fs::remove_all(folder, ignored);
-    }
+    Bench()
+        : ScratchEditor({{fs::path(TARVEX_SOURCE_DIR) / "data" / "refdb" / "schema.sql",
+                          fs::path(TARVEX_SOURCE_DIR) / "data" / "refdb" / "seed.sql"},
+                         {},
+                         fs::path(TARVEX_SOURCE_DIR) / "data" / "maps",
+                         true},
+                        "bench"),
+          ed(&HeadlessEditor::ed()),
+          folder(Folder()) {}
 
     // Layouts of the given sizes in the database, each unit of a known type.
     std::vector<int> AddLayouts(const std::vector<int>& sizes) {
@@ -161,7 +132,7 @@ struct Bench : ScriptedServices {
         doc.MissionPath = (folder / "sim" / "missions" / name).string();
         doc.MissionFile = name;
         SaveMission(e);
-        if (!dialogs.messages.empty()) throw std::runtime_error(dialogs.LastMessage());
+        if (!dialogs().messages.empty()) throw std::runtime_error(dialogs().LastMessage());
         return doc.MissionPath;
     }
 
@@ -201,7 +172,7 @@ void RunLoad(benchmark::State& state, const Shape& shape) {
     b.Load(file);  // the first load may add layouts; later ones find them
     for (auto _ : state)
         b.Load(file);
-    if (!b.dialogs.messages.empty()) state.SkipWithError(b.dialogs.LastMessage().c_str());
+    if (!b.dialogs().messages.empty()) state.SkipWithError(b.dialogs().LastMessage().c_str());
     state.counters["bytes"] = static_cast<double>(fs::file_size(file));
 }
 
@@ -212,7 +183,7 @@ void RunSave(benchmark::State& state, const Shape& shape) {
     b.Load(file);
     for (auto _ : state)
         SaveMission(*b.ed);
-    if (!b.dialogs.messages.empty()) state.SkipWithError(b.dialogs.LastMessage().c_str());
+    if (!b.dialogs().messages.empty()) state.SkipWithError(b.dialogs().LastMessage().c_str());
 }
 
 void BM_LoadMaximal(benchmark::State& state) {

@@ -5,8 +5,9 @@
 #include <filesystem>
 #include <string>
 
-#include "shell/editor.h"
-#include "shell/scripted_platform.h"
+#include "app/make_editor.h"
+#include "platform/scripted_platform.h"
+#include "shell/forms/frm_mission.h"
 #include "shell/settings.h"
 #include "shell/startup.h"
 
@@ -27,7 +28,8 @@ void BM_StartProgram(benchmark::State& state) {
         put("Sortak DB", (install / "Sortak" / "Sortak Data" / "Tarvex Missions.mdb").string());
         put("Sortak Map", (install / "Sortak" / "Sortak Maps").string() + "/");
         put("Last Tab", "3");
-        Editor ed(services.Bind());
+        auto editor = MakeEditor(services.Bind());
+        Editor& ed = *editor;
         if (!StartProgram(ed, "", true)) state.SkipWithError("start-up ended the program");
         benchmark::DoNotOptimize(ed.FrmMission.cmbMovingType.ListCount());
         std::filesystem::current_path(home);

@@ -4,8 +4,8 @@
 #include <memory>
 #include <string>
 
+#include "app/headless_editor.h"
 #include "cli/commands.h"
-#include "cli/headless_editor.h"
 #include "cli/scratch_database.h"
 
 namespace tarvex::cli {

@@ -9,6 +9,7 @@
 #include "document/coord_text.h"
 #include "refdata/reference_database.h"
 #include "shell/editor.h"
+#include "shell/forms/frm_mission.h"
 
 namespace tarvex::cli {
 

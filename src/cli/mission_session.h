@@ -3,7 +3,7 @@
 // the boxes the handlers show become the result.
 #include <string>
 
-#include "cli/headless_editor.h"
+#include "app/headless_editor.h"
 
 namespace tarvex::cli {
 

@@ -1,5 +1,6 @@
 #include "common/number_text.h"
 #include "document/mission_writers.h"
+#include "shell/forms/frm_mission.h"
 
 namespace tarvex {
 

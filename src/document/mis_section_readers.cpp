@@ -4,9 +4,10 @@
 #include "common/numbers.h"
 #include "common/text.h"
 #include "document/coord_text.h"
-#include "ground/ground_reconstruction.h"
+#include "document/ground_reconstruction.h"
 #include "refdata/reference_lookups.h"
 #include "shell/editor.h"
+#include "shell/forms/frm_mission.h"
 
 namespace tarvex {
 

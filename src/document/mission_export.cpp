@@ -9,6 +9,7 @@
 #include "document/file_text.h"
 #include "refdata/reference_lookups.h"
 #include "shell/editor.h"
+#include "shell/forms/frm_mission.h"
 
 namespace tarvex {
 

@@ -2,6 +2,7 @@
 
 #include "maps/tab_selection.h"
 #include "shell/editor.h"
+#include "shell/forms/frm_mission.h"
 
 namespace tarvex {
 

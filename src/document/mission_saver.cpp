@@ -7,6 +7,7 @@
 #include "common/error.h"
 #include "common/number_text.h"
 #include "common/paths.h"
+#include "common/program_version.h"
 #include "common/text.h"
 #include "document/atomic_file_writer.h"
 #include "document/mission_export.h"
@@ -14,7 +15,9 @@
 #include "document/mission_writers.h"
 #include "refdata/transaction.h"
 #include "shell/editor.h"
-#include "shell/program_version.h"
+#include "shell/forms/frm_mission.h"
+#include "shell/forms/frm_msg_screen.h"
+#include "shell/forms/mdi_mission_ed.h"
 #include "shell/recent_files.h"
 #include "shell/status_strip.h"
 

@@ -4,6 +4,7 @@
 
 #include "common/number_text.h"
 #include "shell/editor.h"
+#include "shell/forms/frm_mission.h"
 
 namespace tarvex {
 

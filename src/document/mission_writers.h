@@ -8,6 +8,7 @@
 
 #include "document/file_text.h"
 #include "shell/editor.h"
+#include "shell/forms/frm_mission.h"
 
 namespace tarvex {
 

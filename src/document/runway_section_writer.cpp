@@ -1,6 +1,7 @@
 #include "common/number_text.h"
 #include "document/coord_text.h"
 #include "document/mission_writers.h"
+#include "shell/forms/frm_mission.h"
 
 namespace tarvex {
 

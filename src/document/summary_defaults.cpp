@@ -1,9 +1,10 @@
 #include <cstdio>
 #include <string>
 
+#include "common/program_version.h"
 #include "document/mission_reset.h"
 #include "shell/editor.h"
-#include "shell/program_version.h"
+#include "shell/forms/frm_mission.h"
 
 namespace tarvex {
 

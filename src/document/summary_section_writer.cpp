@@ -3,6 +3,7 @@
 #include "document/mission_writers.h"
 #include "maps/tab_selection.h"
 #include "refdata/reference_lookups.h"
+#include "shell/forms/frm_mission.h"
 
 namespace tarvex {
 

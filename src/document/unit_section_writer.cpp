@@ -2,6 +2,7 @@
 #include "document/coord_text.h"
 #include "document/mission_writers.h"
 #include "refdata/reference_lookups.h"
+#include "shell/forms/frm_mission.h"
 
 namespace tarvex {
 

@@ -1,6 +1,7 @@
 #include "ground/layout_lists.h"
 
 #include "shell/editor.h"
+#include "shell/forms/frm_mission.h"
 
 namespace tarvex {
 

@@ -1,6 +1,7 @@
 #include "maps/cursor_position.h"
 
 #include "shell/editor.h"
+#include "shell/forms/frm_mission.h"
 #include "shell/status_strip.h"
 
 namespace tarvex {
@@ -18,6 +19,15 @@ void ShowCursorPosition(Editor& ed, float x, float y, std::string_view minutesFo
                projection.CursorReadout(ed.FrmMission.SSTab1.Tab(), distance, point,
                                         ed.drawing.TotalPathDist),
                kStatusNormal);
+}
+
+void mapWayPoints_MouseMove(Editor& ed, int, int, float x, float y) {
+    ShowCursorPosition(ed, x, y, "##00.00");
+}
+
+void mapGroundUnits_MouseMove(Editor& ed, int, int, float x, float y) {
+    if (ed.FrmMission.mapGroundUnits.Tag() == "True") return;
+    ShowCursorPosition(ed, x, y, "##00.0000");
 }
 
 }  // namespace tarvex

@@ -7,6 +7,7 @@
 #include "maps/map_catalogue.h"
 #include "maps/path_drawing.h"
 #include "shell/editor.h"
+#include "shell/forms/frm_mission.h"
 #include "shell/status_strip.h"
 
 namespace tarvex {

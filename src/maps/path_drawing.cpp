@@ -5,6 +5,7 @@
 #include "common/number_text.h"
 #include "maps/map_loading.h"
 #include "shell/editor.h"
+#include "shell/forms/frm_mission.h"
 
 namespace tarvex {
 
@@ -126,6 +127,10 @@ void DrawPaths(Editor& ed, PictureSurface& surface) {
         }
     }
     HighlightPoint(ed, doc.PathCurrentPoint(doc.CurrentPath));
+}
+
+void mapWayPoints_Paint(Editor& ed) {
+    DrawPaths(ed, ed.FrmMission.mapWayPoints);
 }
 
 void HighlightPoint(Editor& ed, int point) {

@@ -23,6 +23,10 @@ inline constexpr Colour kHighlightColour = Rgb(255, 0, 0);
 // mapWayPoints alone, so on mapGroundUnits only legs, numbers and markers appear.
 void DrawPaths(Editor& ed, PictureSurface& surface);
 
+// The surface was exposed. The skin raises Paint then, not when the recording changes: the
+// redraw itself changes the recording.
+void mapWayPoints_Paint(Editor& ed);
+
 // Marks `point` of CurrentPath in red on mapWayPoints (its circle and incoming leg) and makes
 // it the path's current point. Nothing for point 0 or below.
 void HighlightPoint(Editor& ed, int point);

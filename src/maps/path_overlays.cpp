@@ -2,6 +2,7 @@
 
 #include "maps/path_drawing.h"
 #include "shell/editor.h"
+#include "shell/forms/frm_mission.h"
 
 namespace tarvex {
 

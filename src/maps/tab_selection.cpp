@@ -4,6 +4,8 @@
 #include "maps/map_loading.h"
 #include "maps/path_drawing.h"
 #include "shell/editor.h"
+#include "shell/forms/frm_mission.h"
+#include "shell/forms/mdi_mission_ed.h"
 #include "shell/status_strip.h"
 
 namespace tarvex {

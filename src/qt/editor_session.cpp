@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QPixmap>
 
+#include "app/make_editor.h"
 #include "maps/tab_selection.h"
 #include "qt/binders.h"
 #include "qt/editor_window.h"
@@ -11,8 +12,7 @@
 namespace tarvex::qt {
 
 EditorSession::EditorSession(Services services)
-    : editor_(std::make_unique<Editor>(services)),
-      window_(std::make_unique<EditorWindow>(*editor_)) {}
+    : editor_(MakeEditor(services)), window_(std::make_unique<EditorWindow>(*editor_)) {}
 
 EditorSession::~EditorSession() {
     // The widgets listen to the models: they go before the Editor that owns them.

@@ -7,6 +7,16 @@
 #include "qt/binders.h"
 #include "qt/form_view.h"
 #include "shell/editor.h"
+#include "shell/forms/frm_about.h"
+#include "shell/forms/frm_aircraft.h"
+#include "shell/forms/frm_grnd_names.h"
+#include "shell/forms/frm_gu_offsets.h"
+#include "shell/forms/frm_mission.h"
+#include "shell/forms/frm_msg_screen.h"
+#include "shell/forms/frm_new_record.h"
+#include "shell/forms/frm_splash.h"
+#include "shell/forms/frm_tbl_missions.h"
+#include "shell/forms/mdi_mission_ed.h"
 #include "shell/program_exit.h"
 
 namespace tarvex::qt {

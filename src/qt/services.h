@@ -7,7 +7,7 @@
 #include <map>
 #include <memory>
 
-#include "shell/platform.h"
+#include "platform/platform.h"
 
 class QLocalServer;
 class QSoundEffect;

@@ -4,8 +4,8 @@
 #include <system_error>
 
 #include "common/error.h"
-#include "shell/controls/item_list.h"
-#include "shell/platform.h"
+#include "common/item_list.h"
+#include "platform/platform.h"
 
 namespace tarvex {
 

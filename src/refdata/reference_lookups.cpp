@@ -3,6 +3,7 @@
 #include "common/number_text.h"
 #include "document/coord_text.h"
 #include "shell/editor.h"
+#include "shell/forms/frm_mission.h"
 #include "shell/status_strip.h"
 
 namespace tarvex {

@@ -4,6 +4,8 @@
 
 #include "common/paths.h"
 #include "shell/editor.h"
+#include "shell/forms/frm_about.h"
+#include "shell/forms/mdi_mission_ed.h"
 #include "shell/sounds.h"
 
 namespace tarvex {

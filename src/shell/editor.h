@@ -2,6 +2,7 @@
 // One running program: the mission, the module state, the reference database, the forms
 // with their controls, and the desktop services. There are no globals; tests build a fresh
 // Editor with scripted services.
+#include <memory>
 #include <string>
 
 #include "document/mission.h"
@@ -11,23 +12,29 @@
 #include "ground/layout_transform.h"
 #include "maps/map_drawing_state.h"
 #include "maps/map_projection.h"
+#include "platform/platform.h"
 #include "refdata/reference_database.h"
 #include "shell/app_settings.h"
-#include "shell/forms/frm_about.h"
-#include "shell/forms/frm_aircraft.h"
-#include "shell/forms/frm_grnd_names.h"
-#include "shell/forms/frm_gu_offsets.h"
-#include "shell/forms/frm_mission.h"
-#include "shell/forms/frm_msg_screen.h"
-#include "shell/forms/frm_new_record.h"
-#include "shell/forms/frm_splash.h"
-#include "shell/forms/frm_tbl_missions.h"
-#include "shell/forms/mdi_mission_ed.h"
-#include "shell/platform.h"
 #include "shell/shell_state.h"
 
 namespace tarvex {
 
+// The forms: a handler includes the header of each form it touches.
+class MDIMissionED;
+class FrmMission;
+class frmNewRecord;
+class frmAircraft;
+class frmGrndNames;
+class frmGUOffsets;
+class frmtblMissions;
+class frmMsgScreen;
+class frmSplash;
+class frmAbout;
+class PictureSurface;
+class ListBox;
+
+// Every program builds its Editor through MakeEditor (app/make_editor.h), which also wires the
+// handlers; an Editor made directly has its controls but no handlers.
 class Editor {
   public:
     explicit Editor(Services services);
@@ -60,18 +67,23 @@ class Editor {
     ShellState shell;
     ReferenceDatabase db;
 
+  private:
+    struct Forms;
+    std::unique_ptr<Forms> forms_;
+
+  public:
     // The forms, named as the program knows them. The qualified type names keep each
     // member's name free to be the form's own.
-    ::tarvex::MDIMissionED MDIMissionED;
-    ::tarvex::FrmMission FrmMission;
-    ::tarvex::frmNewRecord frmNewRecord;
-    ::tarvex::frmAircraft frmAircraft;
-    ::tarvex::frmGrndNames frmGrndNames;
-    ::tarvex::frmGUOffsets frmGUOffsets;
-    ::tarvex::frmtblMissions frmtblMissions;
-    ::tarvex::frmMsgScreen frmMsgScreen;
-    ::tarvex::frmSplash frmSplash;
-    ::tarvex::frmAbout frmAbout;
+    ::tarvex::MDIMissionED& MDIMissionED;
+    ::tarvex::FrmMission& FrmMission;
+    ::tarvex::frmNewRecord& frmNewRecord;
+    ::tarvex::frmAircraft& frmAircraft;
+    ::tarvex::frmGrndNames& frmGrndNames;
+    ::tarvex::frmGUOffsets& frmGUOffsets;
+    ::tarvex::frmtblMissions& frmtblMissions;
+    ::tarvex::frmMsgScreen& frmMsgScreen;
+    ::tarvex::frmSplash& frmSplash;
+    ::tarvex::frmAbout& frmAbout;
 };
 
 }  // namespace tarvex

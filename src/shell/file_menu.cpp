@@ -1,10 +1,11 @@
 #include "shell/file_menu.h"
 
+#include "common/program_version.h"
 #include "document/mission_loader.h"
 #include "document/mission_reset.h"
 #include "document/mission_saver.h"
 #include "shell/editor.h"
-#include "shell/program_version.h"
+#include "shell/forms/mdi_mission_ed.h"
 
 namespace tarvex {
 

@@ -7,6 +7,8 @@
 #include "common/numbers.h"
 #include "maps/path_drawing.h"
 #include "shell/editor.h"
+#include "shell/forms/frm_mission.h"
+#include "shell/forms/mdi_mission_ed.h"
 
 namespace tarvex {
 

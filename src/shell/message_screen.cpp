@@ -1,6 +1,8 @@
 #include "shell/message_screen.h"
 
 #include "shell/editor.h"
+#include "shell/forms/frm_msg_screen.h"
+#include "shell/forms/mdi_mission_ed.h"
 
 namespace tarvex {
 

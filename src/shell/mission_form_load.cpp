@@ -5,6 +5,7 @@
 #include "common/paths.h"
 #include "ground/layout_lists.h"
 #include "shell/editor.h"
+#include "shell/forms/frm_mission.h"
 
 namespace tarvex {
 

@@ -1,6 +1,10 @@
 #include "shell/program_exit.h"
 
 #include "shell/editor.h"
+#include "shell/forms/frm_gu_offsets.h"
+#include "shell/forms/frm_mission.h"
+#include "shell/forms/frm_new_record.h"
+#include "shell/forms/mdi_mission_ed.h"
 #include "shell/settings.h"
 
 namespace tarvex {
@@ -32,6 +36,10 @@ void EndProgram(Editor& ed) {
     if (ed.shell.Ended) return;
     ed.shell.Ended = true;
     if (ed.shell.OnProgramEnd) ed.shell.OnProgramEnd();
+}
+
+void mnuExit_Click(Editor& ed) {
+    CloseMainWindow(ed, UnloadMode::FormCode);
 }
 
 }  // namespace tarvex

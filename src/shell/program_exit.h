@@ -16,6 +16,9 @@ bool ConfirmExit(Editor& ed, UnloadMode mode);
 // are stored, the database closed and the program ended.
 bool CloseMainWindow(Editor& ed, UnloadMode mode);
 
+// File, Exit: closes without the question.
+void mnuExit_Click(Editor& ed);
+
 // Marks the run as ended and tells the desktop.
 void EndProgram(Editor& ed);
 

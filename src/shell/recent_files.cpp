@@ -5,6 +5,7 @@
 #include "document/mission_loader.h"
 #include "document/mission_reset.h"
 #include "shell/editor.h"
+#include "shell/forms/mdi_mission_ed.h"
 #include "shell/settings.h"
 #include "shell/shell_state.h"
 
@@ -75,9 +76,9 @@ void OpenRecentFile(Editor& ed, int k) {
     LoadMission(ed);
 }
 
-void WireRecentFiles(Editor& ed) {
-    for (int k = 1; k <= 4; ++k)
-        ed.MDIMissionED.mnudummy(k).Click = [&ed, k] { OpenRecentFile(ed, k); };
+void mnudummy_Click(Editor& ed, int k) {
+    // Entry 0 is the separator above the list.
+    if (k >= 1 && k <= 4) OpenRecentFile(ed, k);
 }
 
 }  // namespace tarvex

@@ -27,6 +27,6 @@ void RememberMission(Editor& ed);
 // The click on mnudummy(k): opens that mission in place of the one in memory.
 void OpenRecentFile(Editor& ed, int k);
 
-void WireRecentFiles(Editor& ed);
+void mnudummy_Click(Editor& ed, int k);
 
 }  // namespace tarvex

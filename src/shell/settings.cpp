@@ -10,6 +10,7 @@
 #include "common/paths.h"
 #include "common/text.h"
 #include "shell/editor.h"
+#include "shell/forms/frm_mission.h"
 #include "shell/locate_file.h"
 #include "shell/recent_files.h"
 

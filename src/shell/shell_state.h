@@ -5,7 +5,7 @@
 #include <functional>
 #include <string>
 
-#include "shell/program_version.h"
+#include "common/program_version.h"
 
 namespace tarvex {
 

@@ -5,6 +5,7 @@
 #include "common/numbers.h"
 #include "common/paths.h"
 #include "shell/editor.h"
+#include "shell/forms/mdi_mission_ed.h"
 
 namespace tarvex {
 

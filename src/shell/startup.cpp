@@ -10,6 +10,9 @@
 #include "document/mission_reset.h"
 #include "maps/tab_selection.h"
 #include "shell/editor.h"
+#include "shell/forms/frm_mission.h"
+#include "shell/forms/frm_splash.h"
+#include "shell/forms/mdi_mission_ed.h"
 #include "shell/locate_file.h"
 #include "shell/measurement.h"
 #include "shell/mission_form_load.h"
@@ -200,9 +203,12 @@ bool StartProgram(Editor& ed, const std::string& commandLine, bool skipSplash) {
     return true;
 }
 
-void WireSplash(Editor& ed) {
-    ed.frmSplash.Timer1.Timer = [&ed] { EndSplash(ed); };
-    ed.frmSplash.picSplash.Click = [&ed] { EndSplash(ed); };
+void Timer1_Timer(Editor& ed) {
+    EndSplash(ed);
+}
+
+void picSplash_Click(Editor& ed) {
+    EndSplash(ed);
 }
 
 }  // namespace tarvex

@@ -30,6 +30,8 @@ bool LoadMainWindow(Editor& ed);
 // name ending in ".MIS", in any case, is opened; anything else is ignored.
 void OpenFileFromCommand(Editor& ed, const std::string& path);
 
-void WireSplash(Editor& ed);
+// The splash's timer or a click on its picture, whichever comes first, ends it.
+void Timer1_Timer(Editor& ed);
+void picSplash_Click(Editor& ed);
 
 }  // namespace tarvex

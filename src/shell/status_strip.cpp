@@ -1,6 +1,7 @@
 #include "shell/status_strip.h"
 
 #include "shell/editor.h"
+#include "shell/forms/mdi_mission_ed.h"
 
 namespace tarvex {
 

@@ -1,6 +1,8 @@
 #include "shell/window_sizes.h"
 
 #include "shell/editor.h"
+#include "shell/forms/frm_gu_offsets.h"
+#include "shell/forms/frm_mission.h"
 
 namespace tarvex {
 

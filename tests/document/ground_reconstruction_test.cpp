@@ -1,4 +1,5 @@
 #include "document/loader_fixture.h"
+#include "shell/forms/frm_mission.h"
 
 namespace tarvex::testing {
 namespace {

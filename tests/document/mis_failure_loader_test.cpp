@@ -2,6 +2,8 @@
 #include <string>
 
 #include "document/loader_fixture.h"
+#include "shell/forms/frm_mission.h"
+#include "shell/forms/frm_msg_screen.h"
 
 namespace tarvex::testing {
 namespace {

@@ -1,6 +1,7 @@
 #include <string>
 
 #include "document/loader_fixture.h"
+#include "shell/forms/frm_mission.h"
 
 namespace tarvex::testing {
 namespace {

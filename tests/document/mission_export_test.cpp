@@ -1,12 +1,12 @@
 #include "document/mission_export.h"
+#include "shell/forms/frm_mission.h"
+#include "support/test_editor.h"
+#include "writer_test_mission.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
 #include <string>
-
-#include "support/test_editor.h"
-#include "writer_test_mission.h"
 
 namespace tarvex {
 namespace {

@@ -1,5 +1,8 @@
 #include "common/paths.h"
 #include "document/loader_fixture.h"
+#include "shell/forms/frm_mission.h"
+#include "shell/forms/frm_msg_screen.h"
+#include "shell/forms/mdi_mission_ed.h"
 
 namespace tarvex::testing {
 namespace {

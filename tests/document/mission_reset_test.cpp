@@ -1,4 +1,6 @@
 #include "document/mission_reset.h"
+#include "shell/forms/frm_mission.h"
+#include "support/test_editor.h"
 
 #include <gtest/gtest.h>
 
@@ -6,8 +8,6 @@
 
 #include <string>
 #include <vector>
-
-#include "support/test_editor.h"
 
 namespace tarvex {
 namespace {
@@ -129,10 +129,10 @@ TEST(MissionResetTest, SelectsPathZeroLastOnCleanArrays) {
     ed.FrmMission.optColor(0).SetValue(true);
     std::vector<std::string> clicks;
     for (int p : {0, 15}) {
-        ed.FrmMission.optColor(p).Click = [&ed, &clicks, p] {
+        ed.FrmMission.optColor(p).Click.Connect([&ed, &clicks, p] {
             clicks.push_back(std::to_string(p) + ":" + ed.doc.WPLat(0, 1) + ":" +
                              std::to_string(ed.doc.PathPointCount(0)));
-        };
+        });
     }
     ResetMission(ed);
     // Path 15 is chosen while the old mission is still there, path 0 after the arrays are clean.

@@ -1,4 +1,11 @@
 #include "document/mission_saver.h"
+#include "common/error.h"
+#include "document/atomic_file_writer.h"
+#include "shell/forms/frm_mission.h"
+#include "shell/forms/frm_msg_screen.h"
+#include "shell/forms/mdi_mission_ed.h"
+#include "support/test_editor.h"
+#include "writer_test_mission.h"
 
 #include <gtest/gtest.h>
 
@@ -6,11 +13,6 @@
 #include <fstream>
 #include <functional>
 #include <string>
-
-#include "common/error.h"
-#include "document/atomic_file_writer.h"
-#include "support/test_editor.h"
-#include "writer_test_mission.h"
 
 namespace tarvex {
 namespace {

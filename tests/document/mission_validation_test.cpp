@@ -1,14 +1,14 @@
 #include "document/mission_validation.h"
+#include "document/mission_reset.h"
+#include "shell/forms/frm_mission.h"
+#include "shell/mission_form_load.h"
+#include "support/test_editor.h"
+#include "writer_test_mission.h"
 
 #include <gtest/gtest.h>
 
 #include <functional>
 #include <string>
-
-#include "document/mission_reset.h"
-#include "shell/mission_form_load.h"
-#include "support/test_editor.h"
-#include "writer_test_mission.h"
 
 namespace tarvex {
 namespace {

@@ -10,6 +10,7 @@
 #include "document/loader_fixture.h"
 #include "document/mission_validation.h"
 #include "refdata/recordset.h"
+#include "shell/forms/frm_mission.h"
 
 namespace tarvex::testing {
 namespace {

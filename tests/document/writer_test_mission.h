@@ -10,6 +10,7 @@
 
 #include "document/mission_reset.h"
 #include "shell/editor.h"
+#include "shell/forms/frm_mission.h"
 #include "shell/mission_form_load.h"
 #include "support/reference_folder.h"
 

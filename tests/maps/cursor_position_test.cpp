@@ -1,11 +1,12 @@
 #include "maps/cursor_position.h"
+#include "maps/path_drawing.h"
+#include "shell/forms/frm_mission.h"
+#include "shell/forms/mdi_mission_ed.h"
+#include "support/test_editor.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
-
-#include "maps/path_drawing.h"
-#include "support/test_editor.h"
 
 namespace tarvex {
 namespace {

@@ -1,4 +1,10 @@
+#include "document/mission_reset.h"
+#include "maps/map_catalogue.h"
 #include "maps/map_loading.h"
+#include "shell/forms/frm_mission.h"
+#include "shell/forms/mdi_mission_ed.h"
+#include "shell/mission_form_load.h"
+#include "support/test_editor.h"
 
 #include <gtest/gtest.h>
 
@@ -6,11 +12,6 @@
 #include <filesystem>
 #include <fstream>
 #include <string>
-
-#include "document/mission_reset.h"
-#include "maps/map_catalogue.h"
-#include "shell/mission_form_load.h"
-#include "support/test_editor.h"
 
 namespace tarvex {
 namespace {

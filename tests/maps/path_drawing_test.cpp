@@ -1,14 +1,14 @@
 #include "maps/path_drawing.h"
+#include "document/mission_reset.h"
+#include "maps/path_overlays.h"
+#include "shell/forms/frm_mission.h"
+#include "shell/mission_form_load.h"
+#include "support/test_editor.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
-
-#include "document/mission_reset.h"
-#include "maps/path_overlays.h"
-#include "shell/mission_form_load.h"
-#include "support/test_editor.h"
 
 namespace tarvex {
 namespace {

@@ -1,15 +1,16 @@
 #include "maps/tab_selection.h"
+#include "document/mission_reset.h"
+#include "maps/map_catalogue.h"
+#include "shell/forms/frm_mission.h"
+#include "shell/forms/mdi_mission_ed.h"
+#include "shell/mission_form_load.h"
+#include "support/test_editor.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
 #include <fstream>
 #include <string>
-
-#include "document/mission_reset.h"
-#include "maps/map_catalogue.h"
-#include "shell/mission_form_load.h"
-#include "support/test_editor.h"
 
 namespace tarvex {
 namespace {

@@ -19,11 +19,13 @@
 #include <QTest>
 #include <vector>
 
+#include "platform/scripted_platform.h"
 #include "qt/editor_session.h"
 #include "qt/editor_window.h"
 #include "qt/form_view.h"
 #include "qt/services.h"
-#include "shell/scripted_platform.h"
+#include "shell/forms/frm_mission.h"
+#include "shell/forms/mdi_mission_ed.h"
 #include "support/reference_folder.h"
 
 namespace tarvex::qt {
@@ -72,10 +74,10 @@ TEST_F(SkinTest, ShowsTheFourTabsAndTurnsThemThroughTheModel) {
     auto& model = session->ed().FrmMission.SSTab1;
     float pressY = -1;
     int tabAtPress = -1;
-    model.MouseDown = [&](int, int, float, float y) {
+    model.MouseDown.Connect([&](int, int, float, float y) {
         pressY = y;
         tabAtPress = model.Tab();
-    };
+    });
     QTabBar* bar = tabs->tabBar();
     QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(3).center());
     EXPECT_EQ(tabAtPress, 3);
@@ -84,14 +86,14 @@ TEST_F(SkinTest, ShowsTheFourTabsAndTurnsThemThroughTheModel) {
     EXPECT_EQ(tabs->currentIndex(), 3);
 
     // Code's change shows too.
-    model.MouseDown = nullptr;
+    model.MouseDown.Disconnect();
     model.SetTab(1);
     EXPECT_EQ(tabs->currentIndex(), 1);
 }
 
 TEST_F(SkinTest, MenuEntriesActOnTheirModelsAndFollowThem) {
     MenuItem& tooltips = session->ed().MDIMissionED.mnuTooltips;
-    if (!tooltips.Click) tooltips.Click = [&] { tooltips.SetChecked(!tooltips.Checked()); };
+    if (!tooltips.Click) tooltips.Click.Connect([&] { tooltips.SetChecked(!tooltips.Checked()); });
     QAction* action = Action("mnuTooltips");
     ASSERT_NE(action, nullptr);
     EXPECT_EQ(action->text(), "&Tooltips");
@@ -108,7 +110,8 @@ TEST_F(SkinTest, MenuEntriesActOnTheirModelsAndFollowThem) {
     save.SetEnabled(false);
     EXPECT_FALSE(saveAction->isEnabled());
     int clicks = 0;
-    save.Click = [&] { ++clicks; };
+    save.Click.Disconnect();
+    save.Click.Connect([&] { ++clicks; });
     saveAction->trigger();  // a disabled entry can't be chosen
     EXPECT_EQ(clicks, 0);
 }
@@ -125,8 +128,12 @@ TEST_F(SkinTest, PointerOnTheMapReachesTheCoreInMapUnits) {
         float x, y;
     };
     std::vector<Press> seen;
-    model.MouseDown = [&](int b, int s, float x, float y) { seen.push_back({"down", b, s, x, y}); };
-    model.MouseUp = [&](int b, int s, float x, float y) { seen.push_back({"up", b, s, x, y}); };
+    model.MouseDown.Connect([&](int b, int s, float x, float y) {
+        seen.push_back({"down", b, s, x, y});
+    });
+    model.MouseUp.Connect([&](int b, int s, float x, float y) {
+        seen.push_back({"up", b, s, x, y});
+    });
     struct Case {
         Qt::MouseButton button;
         Qt::KeyboardModifiers modifiers;
@@ -159,8 +166,8 @@ TEST_F(SkinTest, UserChoicesAndCodeSelectionsAreOneEvent) {
     auto* combo = qobject_cast<QComboBox*>(Widget("cmbClouds"));
     ASSERT_NE(combo, nullptr);
     int clicks = 0, picks = 0;
-    frm.cmbClouds.Click = [&] { ++clicks; };
-    frm.cmbClouds.UserPick = [&] { ++picks; };
+    frm.cmbClouds.Click.Connect([&] { ++clicks; });
+    frm.cmbClouds.UserPick.Connect([&] { ++picks; });
     const int target = (frm.cmbClouds.ListIndex() + 1) % frm.cmbClouds.ListCount();
     emit combo->activated(target);
     EXPECT_EQ(frm.cmbClouds.ListIndex(), target);
@@ -176,7 +183,7 @@ TEST_F(SkinTest, UserChoicesAndCodeSelectionsAreOneEvent) {
     auto* list = qobject_cast<QListWidget*>(Widget("lstGroupName"));
     ASSERT_NE(list, nullptr);
     int listClicks = 0;
-    frm.lstGroupName.Click = [&] { ++listClicks; };
+    frm.lstGroupName.Click.Connect([&] { ++listClicks; });
     frm.lstGroupName.AddItem("Alpha");
     frm.lstGroupName.AddItem("Bravo");
     ASSERT_EQ(list->count(), 2);
@@ -198,7 +205,7 @@ TEST_F(SkinTest, TypingReachesTheTextBoxAndKeepsTheCaret) {
     session->ShowTab(0);
     box.SetText("");
     int changes = 0;
-    box.Change = [&] { ++changes; };
+    box.Change.Connect([&] { ++changes; });
     edit->setFocus();
     QTest::keyClicks(edit, "Sweep");
     EXPECT_EQ(box.Text(), "Sweep");

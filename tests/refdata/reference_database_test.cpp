@@ -6,8 +6,8 @@
 #include <fstream>
 #include <vector>
 
-#include "shell/controls/item_list.h"
-#include "shell/scripted_platform.h"
+#include "common/item_list.h"
+#include "platform/scripted_platform.h"
 #include "support/reference_folder.h"
 
 namespace tarvex {

@@ -1,9 +1,10 @@
 #include "refdata/reference_lookups.h"
-
-#include <gtest/gtest.h>
-
+#include "shell/forms/frm_mission.h"
+#include "shell/forms/mdi_mission_ed.h"
 #include "shell/mission_form_load.h"
 #include "support/test_editor.h"
+
+#include <gtest/gtest.h>
 
 namespace tarvex {
 namespace {

@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "common/error.h"
+#include "platform/scripted_platform.h"
 #include "shell/controls/controls.h"
-#include "shell/scripted_platform.h"
 
 namespace tarvex {
 namespace {
@@ -31,28 +31,28 @@ TEST(ValueControlsTest, ChangeFiresOnceAndSameValueFiresNothing) {
         {"CheckBox",
          [](int& fired, std::string& seen) {
              CheckBox c("chk");
-             c.Click = [&] { ++fired, seen = std::to_string(c.Value()); };
+             c.Click.Connect([&] { ++fired, seen = std::to_string(c.Value()); });
              c.SetValue(1);
              c.SetValue(1);
          }},
         {"TextBox",
          [](int& fired, std::string& seen) {
              TextBox t("txt");
-             t.Change = [&] { ++fired, seen = t.Text(); };
+             t.Change.Connect([&] { ++fired, seen = t.Text(); });
              t.SetText("1");
              t.SetText("1");
          }},
         {"UpDown",
          [](int& fired, std::string& seen) {
              UpDown u("updwn");
-             u.Change = [&] { ++fired, seen = std::to_string(u.Value()); };
+             u.Change.Connect([&] { ++fired, seen = std::to_string(u.Value()); });
              u.SetValue(1);
              u.SetValue(1);
          }},
         {"TabControl",
          [](int& fired, std::string& seen) {
              TabControl t("SSTab1", 4);
-             t.Click = [&](int) { ++fired, seen = std::to_string(t.Tab()); };
+             t.Click.Connect([&](int) { ++fired, seen = std::to_string(t.Tab()); });
              t.SetTab(1);
              t.SetTab(1);
          }},
@@ -83,7 +83,7 @@ TEST(ValueControlsTest, OutOfRangeValuesRaiseAndKeepTheOldValue) {
 TEST(ValueControlsTest, TabClickTellsThePreviousTab) {
     TabControl tabs("SSTab1", 4);
     int previous = -1;
-    tabs.Click = [&](int p) { previous = p; };
+    tabs.Click.Connect([&](int p) { previous = p; });
     tabs.SetTab(3);
     tabs.SetTab(2);
     EXPECT_EQ(previous, 3);
@@ -93,9 +93,9 @@ TEST(UpDownTest, ArrowsStopAtTheBoundsButStillClick) {
     UpDown upDown("updwnGroupView");
     upDown.SetMax(2);
     std::vector<std::string> events;
-    upDown.Change = [&] { events.push_back("change " + std::to_string(upDown.Value())); };
-    upDown.UpClick = [&] { events.push_back("up"); };
-    upDown.DownClick = [&] { events.push_back("down"); };
+    upDown.Change.Connect([&] { events.push_back("change " + std::to_string(upDown.Value())); });
+    upDown.UpClick.Connect([&] { events.push_back("up"); });
+    upDown.DownClick.Connect([&] { events.push_back("down"); });
     upDown.SetIncrement(2);
     upDown.UserUp();
     upDown.UserUp();
@@ -107,7 +107,7 @@ TEST(OptionButtonTest, ArraySetsOneAndClicksOnlyTheNewlySetButton) {
     ControlArray<OptionButton> optColor("optColor", 0, 15);
     std::vector<int> clicks;
     for (auto& opt : optColor)
-        opt.Click = [&, i = opt.Index()] { clicks.push_back(i); };
+        opt.Click.Connect([&, i = opt.Index()] { clicks.push_back(i); });
 
     optColor(0).SetValue(true);
     optColor(5).UserClick();
@@ -133,7 +133,7 @@ TEST(OptionButtonTest, SeparateArraysDoNotClearEachOther) {
 TEST(CheckBoxTest, UserClickTogglesThroughTheSetter) {
     ControlArray<CheckBox> chkOverlay("chkOverlay", 0, 15);
     int clicks = 0;
-    chkOverlay(3).Click = [&] { ++clicks; };
+    chkOverlay(3).Click.Connect([&] { ++clicks; });
     chkOverlay(3).UserClick();
     EXPECT_EQ(chkOverlay(3).Value(), kChecked);
     chkOverlay(3).UserClick();
@@ -148,7 +148,7 @@ TEST(TextBoxTest, SelectionClampsAndSelTextReplaces) {
     text.SetSelLength(99);
     EXPECT_EQ(text.SelLength(), 7);
     int changes = 0;
-    text.Change = [&] { ++changes; };
+    text.Change.Connect([&] { ++changes; });
     text.SetSelStart(6);
     text.SetSelLength(1);
     text.SetSelText("4");
@@ -160,7 +160,7 @@ TEST(TextBoxTest, SelectionClampsAndSelTextReplaces) {
 TEST(TimerTest, FiresOnlyWhileRunning) {
     Timer timer("tmrSetColor");
     int ticks = 0;
-    timer.Timer = [&] { ++ticks; };
+    timer.Timer.Connect([&] { ++ticks; });
     EXPECT_FALSE(timer.Fire());  // no interval yet
     timer.SetInterval(500);
     EXPECT_TRUE(timer.Fire());
@@ -172,7 +172,7 @@ TEST(TimerTest, FiresOnlyWhileRunning) {
 TEST(MenuItemTest, DisabledEntriesDropTheClick) {
     MenuItem mnuDel("mnuDel", "&Delete", "Del");
     int clicks = 0;
-    mnuDel.Click = [&] { ++clicks; };
+    mnuDel.Click.Connect([&] { ++clicks; });
     mnuDel.SetEnabled(false);
     mnuDel.UserClick();
     mnuDel.SetEnabled(true);

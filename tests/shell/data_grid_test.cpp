@@ -41,7 +41,7 @@ class DataGridTest : public ::testing::Test {
     }
     void TearDown() override {
         // The handlers captured the test body's locals, which are gone by now.
-        source.Validate = nullptr;
+        source.Validate.Disconnect();
         source.Close();
         std::filesystem::remove(path_);
     }
@@ -53,7 +53,7 @@ class DataGridTest : public ::testing::Test {
 
 TEST_F(DataGridTest, RefreshShowsTheRowsAndStandsOnTheFirst) {
     int repositions = 0;
-    source.Reposition = [&] { ++repositions; };
+    source.Reposition.Connect([&] { ++repositions; });
     source.Refresh();
     EXPECT_EQ(repositions, 1);
     EXPECT_EQ(grid.RowCount(), 3);
@@ -66,10 +66,10 @@ TEST_F(DataGridTest, RefreshShowsTheRowsAndStandsOnTheFirst) {
 TEST_F(DataGridTest, NewRowStartsARecordOnTheFirstValueAndUpdateRecordFilesIt) {
     source.Refresh();
     int addNews = 0;
-    grid.OnAddNew = [&] {
+    grid.OnAddNew.Connect([&] {
         ++addNews;
         grid.Columns(2).SetValue(9);  // a default, as the forms set them
-    };
+    });
     grid.SetRow(3);
     EXPECT_TRUE(grid.OnNewRow());
     EXPECT_EQ(source.Recordset().AbsolutePosition(), -1);
@@ -96,7 +96,7 @@ TEST_F(DataGridTest, DownFromTheLastRecordReachesTheNewRowUnlessSwallowed) {
     grid.UserKeyDown(kKeyDown, 0);
     EXPECT_EQ(grid.Row(), 3);
 
-    grid.KeyDown = [](int& keyCode, int) { keyCode = 0; };
+    grid.KeyDown.Connect([](int& keyCode, int) { keyCode = 0; });
     grid.UserKeyDown(kKeyUp, 0);
     EXPECT_EQ(grid.Row(), 3);
 }
@@ -104,14 +104,14 @@ TEST_F(DataGridTest, DownFromTheLastRecordReachesTheNewRowUnlessSwallowed) {
 TEST_F(DataGridTest, LeavingAChangedRowStoresItBeforeTheMove) {
     source.Refresh();
     std::vector<std::string> events;
-    source.Validate = [&](int& action, int& save) {
+    source.Validate.Connect([&](int& action, int& save) {
         events.push_back("validate " + std::to_string(action) + " " + std::to_string(save));
-    };
-    grid.AfterUpdate = [&] { events.push_back("after update"); };
-    grid.RowColChange = [&](int lastRow, int lastCol) {
+    });
+    grid.AfterUpdate.Connect([&] { events.push_back("after update"); });
+    grid.RowColChange.Connect([&](int lastRow, int lastCol) {
         events.push_back("rowcol " + std::to_string(lastRow) + " " + std::to_string(lastCol) +
                          " now " + std::to_string(grid.Row()));
-    };
+    });
     grid.UserMoveTo(0, 2);
     grid.UserEditCell("50");
     grid.UserMoveTo(1, 2);
@@ -123,9 +123,9 @@ TEST_F(DataGridTest, LeavingAChangedRowStoresItBeforeTheMove) {
 
 TEST_F(DataGridTest, AfterColUpdateCanRefuseTheTypedValue) {
     source.Refresh();
-    grid.AfterColUpdate = [&](int col) {
+    grid.AfterColUpdate.Connect([&](int col) {
         if (col == 0) grid.SetCurrentCellModified(false);
-    };
+    });
     grid.UserMoveTo(1, 0);
     grid.UserEditCell("99");
     EXPECT_EQ(grid.Columns(0).Text(), "2");
@@ -138,24 +138,24 @@ TEST_F(DataGridTest, AfterColUpdateCanRefuseTheTypedValue) {
 TEST_F(DataGridTest, AFailedStoreOfTheUserGoesToTheErrorEvent) {
     source.Refresh();
     int reported = 0;
-    source.Error = [&](int number, int& response) {
+    source.Error.Connect([&](int number, int& response) {
         reported = number;
         response = kDataErrContinue;
-    };
+    });
     grid.UserMoveTo(3, 0);
     grid.UserEditCell("8");  // no FullName: the store must fail
     grid.UserMoveTo(0, 0);
     EXPECT_EQ(reported, kErrSqlFailed);
     EXPECT_EQ(source.Recordset().RecordCount(), 3);
 
-    source.Error = nullptr;
+    source.Error.Disconnect();
     EXPECT_THROW(grid.UserMoveTo(0, 0), AppError);
 }
 
 TEST_F(DataGridTest, RowSelectionByBookmarksRaisesSelChangeOnEveryPress) {
     source.Refresh();
     int changes = 0;
-    grid.SelChange = [&] { ++changes; };
+    grid.SelChange.Connect([&] { ++changes; });
     grid.UserSelectRow(1, false);
     grid.UserSelectRow(1, false);
     grid.UserSelectRow(2, true);

@@ -49,7 +49,7 @@ TEST(ListBoxTest, SelectionRulesOfRowOperations) {
         Fill(list, {"a", "b", "c", "d"});
         list.SetListIndex(2);
         int clicks = 0;
-        list.Click = [&] { ++clicks; };
+        list.Click.Connect([&] { ++clicks; });
         c.act(list);
         EXPECT_EQ(list.ListIndex(), c.listIndex) << c.what;
         EXPECT_EQ(clicks, c.clicks) << c.what;
@@ -61,7 +61,7 @@ TEST(ListBoxTest, HandlerRunsInsideTheSetterAndSeesTheNewRow) {
     ListBox list("lst");
     Fill(list, {"a", "b"});
     std::string seen;
-    list.Click = [&] { seen = list.List(list.ListIndex()); };
+    list.Click.Connect([&] { seen = list.List(list.ListIndex()); });
     list.SetListIndex(1);
     EXPECT_EQ(seen, "b");
 }
@@ -70,10 +70,10 @@ TEST(ListBoxTest, ReentrantSelectionFromAClickHandler) {
     ListBox list("lst");
     Fill(list, {"a", "b", "c"});
     std::vector<int> order;
-    list.Click = [&] {
+    list.Click.Connect([&] {
         order.push_back(list.ListIndex());
         if (list.ListIndex() == 2) list.SetListIndex(0);
-    };
+    });
     list.SetListIndex(2);
     EXPECT_EQ(order, (std::vector<int>{2, 0}));
     EXPECT_EQ(list.ListIndex(), 0);
@@ -111,7 +111,7 @@ TEST(ListBoxTest, ExtendedSelectionKeepsRowFlagsAndFiresOncePerUserSelection) {
     list.SetMultiSelect(kMultiSelectExtended);
     Fill(list, {"a", "b", "c", "d"});
     int clicks = 0;
-    list.Click = [&] { ++clicks; };
+    list.Click.Connect([&] { ++clicks; });
 
     list.SetSelected(1, true);
     list.SetSelected(2, true);
@@ -135,8 +135,8 @@ TEST(ComboBoxTest, TextFollowsTheRowAndFiresTheRightEvent) {
     Fill(combo, {"Alpha", "Bravo"});
     int clicks = 0;
     int changes = 0;
-    combo.Click = [&] { ++clicks; };
-    combo.Change = [&] { ++changes; };
+    combo.Click.Connect([&] { ++clicks; });
+    combo.Change.Connect([&] { ++changes; });
 
     combo.SetListIndex(1);
     EXPECT_EQ(combo.Text(), "Bravo");
@@ -160,7 +160,7 @@ TEST(ComboBoxTest, DropDownListTextSelectsARowOrRefuses) {
     combo.SetStyle(kComboDropDownList);
     Fill(combo, {"Spitfire", "Hurricane"});
     int clicks = 0;
-    combo.Click = [&] { ++clicks; };
+    combo.Click.Connect([&] { ++clicks; });
 
     combo.SetText("hurricane");
     EXPECT_EQ(combo.ListIndex(), 1);
@@ -180,9 +180,9 @@ TEST(ComboBoxTest, OpenListFollowsTheHighlightQuietlyAndTheChoiceClicks) {
     combo.SetStyle(kComboDropDownList);
     Fill(combo, {"Biggin Hill", "Hawkinge", "Manston"});
     std::vector<std::string> events;
-    combo.Click = [&] { events.push_back("click " + std::to_string(combo.ListIndex())); };
-    combo.Highlight = [&](int row) { events.push_back("highlight " + combo.List(row)); };
-    combo.UserPick = [&] { events.push_back("pick " + combo.Text()); };
+    combo.Click.Connect([&] { events.push_back("click " + std::to_string(combo.ListIndex())); });
+    combo.Highlight.Connect([&](int row) { events.push_back("highlight " + combo.List(row)); });
+    combo.UserPick.Connect([&] { events.push_back("pick " + combo.Text()); });
 
     combo.UserHighlight(1);
     combo.UserHighlight(2);

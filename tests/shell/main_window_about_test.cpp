@@ -5,6 +5,9 @@
 #include <vector>
 
 #include "shell/editor.h"
+#include "shell/forms/frm_about.h"
+#include "shell/forms/frm_gu_offsets.h"
+#include "shell/forms/mdi_mission_ed.h"
 #include "shell/window_sizes.h"
 #include "support/test_editor.h"
 

@@ -5,6 +5,9 @@
 #include <string>
 
 #include "shell/editor.h"
+#include "shell/forms/frm_mission.h"
+#include "shell/forms/frm_msg_screen.h"
+#include "shell/forms/mdi_mission_ed.h"
 #include "shell/mission_form_load.h"
 #include "support/test_editor.h"
 

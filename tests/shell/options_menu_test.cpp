@@ -4,6 +4,8 @@
 #include <vector>
 
 #include "shell/editor.h"
+#include "shell/forms/frm_mission.h"
+#include "shell/forms/mdi_mission_ed.h"
 #include "shell/measurement.h"
 #include "shell/options_menu.h"
 #include "shell/sounds.h"

@@ -7,6 +7,7 @@
 
 #include "common/paths.h"
 #include "shell/editor.h"
+#include "shell/forms/mdi_mission_ed.h"
 #include "shell/mission_form_load.h"
 #include "shell/recent_files.h"
 #include "support/test_editor.h"

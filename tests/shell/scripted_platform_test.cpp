@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "shell/scripted_platform.h"
+#include "platform/scripted_platform.h"
 
 namespace tarvex {
 namespace {

@@ -136,7 +136,8 @@ class RecordingStore : public MemorySettingsStore {
 TEST(SettingsStoreTest, SaveWritesEveryKeyInItsOrderAsText) {
     TestEditor t;
     RecordingStore store;
-    Editor ed(Services{t.dialogs, t.sound, store, t.registry, t.instance, t.clock});
+    auto editor = MakeEditor(Services{t.dialogs, t.sound, store, t.registry, t.instance, t.clock});
+    Editor& ed = *editor;
     ed.options.SimPath = "/sim/";
     ed.db.DBPath = "/db/Tarvex Missions.mdb";
     ed.options.MapPath = "/maps/";

@@ -6,6 +6,9 @@
 #include <string>
 
 #include "shell/editor.h"
+#include "shell/forms/frm_mission.h"
+#include "shell/forms/frm_splash.h"
+#include "shell/forms/mdi_mission_ed.h"
 #include "shell/program_exit.h"
 #include "shell/startup.h"
 #include "support/test_editor.h"

@@ -4,8 +4,8 @@
 #include <memory>
 #include <system_error>
 
-#include "shell/editor.h"
-#include "shell/scripted_platform.h"
+#include "app/make_editor.h"
+#include "platform/scripted_platform.h"
 #include "support/reference_folder.h"
 
 namespace tarvex::testing {
@@ -18,7 +18,7 @@ struct TestEditor : ScriptedServices {
     // A new Editor on the same services, for tests that script the services first.
     Editor& Rebuild() {
         editor.reset();
-        editor = std::make_unique<Editor>(Bind());
+        editor = MakeEditor(Bind());
         return *editor;
     }
 

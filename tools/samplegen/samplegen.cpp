@@ -11,12 +11,14 @@
 #include <string>
 #include <vector>
 
+#include "app/make_editor.h"
 #include "document/mission_reset.h"
 #include "document/mission_saver.h"
 #include "document/mission_validation.h"
+#include "platform/scripted_platform.h"
 #include "shell/editor.h"
+#include "shell/forms/frm_mission.h"
 #include "shell/mission_form_load.h"
-#include "shell/scripted_platform.h"
 
 namespace fs = std::filesystem;
 
@@ -523,7 +525,8 @@ void WriteAircraft(const fs::path& folder, const std::string& shortName,
 
 int Run(const std::string& database, const fs::path& simFolder) {
     ScriptedServices services;
-    Editor ed(services.Bind());
+    auto editor = MakeEditor(services.Bind());
+    Editor& ed = *editor;
     ed.db.DBPath = database;
     ed.db.theDB.Open(database);
 

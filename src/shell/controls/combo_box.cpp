@@ -73,4 +73,11 @@ void ComboBox::UserCancelDrop() {
     MoveQuietly(before < ListCount() ? before : -1);
 }
 
+void ComboBox::ListEvents(std::vector<NamedEvent>& out) const {
+    ListControl::ListEvents(out);
+    out.push_back({"Change", &Change});
+    out.push_back({"Highlight", &Highlight});
+    out.push_back({"UserPick", &UserPick});
+}
+
 }  // namespace tarvex

@@ -36,11 +36,12 @@ class ComboBox : public ListControl {
     void UserCancelDrop();
     bool DroppedDown() const { return rowBeforeDrop_ != kNotDropped; }
 
-    std::function<void()> Change;
-    std::function<void(int row)> Highlight;
-    std::function<void()> UserPick;
+    Event<> Change;
+    Event<int> Highlight;  // the row under the pointer
+    Event<> UserPick;
 
   protected:
+    void ListEvents(std::vector<NamedEvent>& out) const override;
     void StoreListIndex(int index) override;
     void SelectedTextChanged() override;
 

@@ -1,8 +1,8 @@
 #pragma once
 #include <string>
 
+#include "platform/platform.h"
 #include "shell/controls/control.h"
-#include "shell/platform.h"
 
 namespace tarvex {
 

@@ -45,12 +45,41 @@ void Component::RemoveListener(int id) {
     std::erase_if(listeners_, [id](const auto& entry) { return entry.first == id; });
 }
 
+std::vector<NamedEvent> Component::Events() const {
+    std::vector<NamedEvent> events;
+    ListEvents(events);
+    return events;
+}
+
+const EventSlot* Component::FindEvent(std::string_view event) const {
+    // A kind's own event comes after the one it hides (a tab strip's Click).
+    const std::vector<NamedEvent> events = Events();
+    for (auto it = events.rbegin(); it != events.rend(); ++it)
+        if (event == it->name) return it->slot;
+    return nullptr;
+}
+
 void Component::Notify(Aspect aspect) const {
     if (listeners_.empty()) return;
     // A copy, so that a listener may add or remove listeners while it runs.
     const auto listeners = listeners_;
     for (const auto& entry : listeners)
         entry.second(aspect);
+}
+
+void Control::ListEvents(std::vector<NamedEvent>& out) const {
+    out.insert(out.end(), {{"Click", &Click},
+                           {"DblClick", &DblClick},
+                           {"MouseDown", &MouseDown},
+                           {"MouseMove", &MouseMove},
+                           {"MouseUp", &MouseUp},
+                           {"KeyDown", &KeyDown},
+                           {"KeyUp", &KeyUp},
+                           {"KeyPress", &KeyPress},
+                           {"GotFocus", &GotFocus},
+                           {"LostFocus", &LostFocus},
+                           {"OLEDragOver", &OLEDragOver},
+                           {"OLEDragDrop", &OLEDragDrop}});
 }
 
 void Control::Move(float left, float top, float width, float height) {

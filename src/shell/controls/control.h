@@ -8,8 +8,11 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
+
+#include "shell/controls/event.h"
 
 namespace tarvex {
 
@@ -87,11 +90,12 @@ struct DragData {
     std::vector<std::string> files;
 };
 
-using MouseHandler = std::function<void(int button, int shift, float x, float y)>;
+// Button, shift state, and the position in the control's map units.
+using MouseEvent = Event<int, int, float, float>;
 // The key code is passed by reference: a handler may set it to 0 to swallow the key.
-using KeyHandler = std::function<void(int& keyCode, int shift)>;
-using DragOverHandler = std::function<void(const DragData& data, int& effect)>;
-using DragDropHandler = std::function<void(const DragData& data, int& effect)>;
+using KeyEvent = Event<int&, int>;
+// The data dragged, and the effect the handler allows.
+using DragEvent = Event<const DragData&, int&>;
 
 // Identity, tag and listeners: what every model has, visible or not (timers, menus, dialogs).
 class Component {
@@ -115,6 +119,11 @@ class Component {
     int AddListener(Listener listener);
     void RemoveListener(int id);
 
+    // The event of that name, compared with regard to case; nullptr when the kind has none.
+    const EventSlot* FindEvent(std::string_view event) const;
+    // Every event of the kind, for the check that the wiring left none unconnected.
+    std::vector<NamedEvent> Events() const;
+
     // Used by ControlArray when it creates its elements.
     void SetIdentity(std::string name, int index) {
         name_ = std::move(name);
@@ -123,6 +132,8 @@ class Component {
 
   protected:
     void Notify(Aspect aspect) const;
+    // Each kind adds its own events to those of the kind it derives from.
+    virtual void ListEvents(std::vector<NamedEvent>&) const {}
 
   private:
     std::string name_;
@@ -194,18 +205,21 @@ class Control : public Component {
     int RaiseDragOver(const DragData& data) const;
     void RaiseDragDrop(const DragData& data) const;
 
-    std::function<void()> Click;
-    std::function<void()> DblClick;
-    MouseHandler MouseDown;
-    MouseHandler MouseMove;
-    MouseHandler MouseUp;
-    KeyHandler KeyDown;
-    KeyHandler KeyUp;
-    std::function<void(int& keyAscii)> KeyPress;
-    std::function<void()> GotFocus;
-    std::function<void()> LostFocus;
-    DragOverHandler OLEDragOver;
-    DragDropHandler OLEDragDrop;
+    Event<> Click;
+    Event<> DblClick;
+    MouseEvent MouseDown;
+    MouseEvent MouseMove;
+    MouseEvent MouseUp;
+    KeyEvent KeyDown;
+    KeyEvent KeyUp;
+    Event<int&> KeyPress;  // the character typed; 0 swallows it
+    Event<> GotFocus;
+    Event<> LostFocus;
+    DragEvent OLEDragOver;
+    DragEvent OLEDragDrop;
+
+  protected:
+    void ListEvents(std::vector<NamedEvent>& out) const override;
 
   private:
     float left_ = 0;

@@ -451,4 +451,15 @@ void DataGrid::UserSelectRow(int row, bool addToSelection) {
     if (SelChange) SelChange();
 }
 
+void DataGrid::ListEvents(std::vector<NamedEvent>& out) const {
+    Control::ListEvents(out);
+    out.push_back({"RowColChange", &RowColChange});
+    out.push_back({"HeadClick", &HeadClick});
+    out.push_back({"AfterColUpdate", &AfterColUpdate});
+    out.push_back({"AfterUpdate", &AfterUpdate});
+    out.push_back({"OnAddNew", &OnAddNew});
+    out.push_back({"ButtonClick", &ButtonClick});
+    out.push_back({"SelChange", &SelChange});
+}
+
 }  // namespace tarvex

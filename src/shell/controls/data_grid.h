@@ -134,13 +134,16 @@ class DataGrid : public Control {
         if (ButtonClick) ButtonClick(col_);
     }
 
-    std::function<void(int lastRow, int lastCol)> RowColChange;
-    std::function<void(int col)> HeadClick;
-    std::function<void(int col)> AfterColUpdate;
-    std::function<void()> AfterUpdate;
-    std::function<void()> OnAddNew;
-    std::function<void(int col)> ButtonClick;
-    std::function<void()> SelChange;
+    Event<int, int> RowColChange;  // the row and column left
+    Event<int> HeadClick;          // the column
+    Event<int> AfterColUpdate;     // the column
+    Event<> AfterUpdate;
+    Event<> OnAddNew;
+    Event<int> ButtonClick;  // the column
+    Event<> SelChange;
+
+  protected:
+    void ListEvents(std::vector<NamedEvent>& out) const override;
 
   private:
     friend class GridColumn;

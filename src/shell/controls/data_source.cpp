@@ -119,4 +119,11 @@ void DataSource::RaiseReposition() {
     if (Reposition) Reposition();
 }
 
+void DataSource::ListEvents(std::vector<NamedEvent>& out) const {
+    CaptionControl::ListEvents(out);
+    out.push_back({"Validate", &Validate});
+    out.push_back({"Reposition", &Reposition});
+    out.push_back({"Error", &Error});
+}
+
 }  // namespace tarvex

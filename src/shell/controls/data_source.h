@@ -71,9 +71,12 @@ class DataSource : public CaptionControl {
     // Expires when the source is destroyed, so a bound grid that outlives it lets go safely.
     std::weak_ptr<int> Lifetime() const { return lifetime_; }
 
-    std::function<void(int& action, int& save)> Validate;
-    std::function<void()> Reposition;
-    std::function<void(int dataErr, int& response)> Error;
+    Event<int&, int&> Validate;  // action, save
+    Event<> Reposition;
+    Event<int, int&> Error;  // the error number, the response
+
+  protected:
+    void ListEvents(std::vector<NamedEvent>& out) const override;
 
   private:
     // Validate ahead of a move or store; false when the handler cancelled the action.

@@ -10,8 +10,8 @@
 #include <string>
 #include <vector>
 
+#include "common/item_list.h"
 #include "shell/controls/control.h"
-#include "shell/controls/item_list.h"
 
 namespace tarvex {
 

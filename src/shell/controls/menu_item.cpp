@@ -37,4 +37,10 @@ void MenuItem::UserClick() {
     if (Click) Click();
 }
 
+void MenuItem::ListEvents(std::vector<NamedEvent>& out) const {
+    Component::ListEvents(out);
+    out.push_back({"Click", &Click});
+    out.push_back({"Highlight", &Highlight});
+}
+
 }  // namespace tarvex

@@ -40,8 +40,11 @@ class MenuItem : public Component {
         if (Highlight) Highlight(byMouse);
     }
 
-    std::function<void()> Click;
-    std::function<void(bool byMouse)> Highlight;
+    Event<> Click;
+    Event<bool> Highlight;  // whether the mouse reached it
+
+  protected:
+    void ListEvents(std::vector<NamedEvent>& out) const override;
 
   private:
     std::string caption_;

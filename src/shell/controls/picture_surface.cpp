@@ -121,4 +121,9 @@ float PictureSurface::TextHeight(const std::string& text) const {
     return kLineHeight;
 }
 
+void PictureSurface::ListEvents(std::vector<NamedEvent>& out) const {
+    Control::ListEvents(out);
+    out.push_back({"Paint", &Paint});
+}
+
 }  // namespace tarvex

@@ -88,7 +88,10 @@ class PictureSurface : public Control {
     void RaisePaint() const {
         if (Paint) Paint();
     }
-    std::function<void()> Paint;
+    Event<> Paint;
+
+  protected:
+    void ListEvents(std::vector<NamedEvent>& out) const override;
 
   private:
     void Record(DrawOp op);

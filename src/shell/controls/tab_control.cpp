@@ -77,4 +77,9 @@ void TabControl::SetTabHeight(float height) {
     Notify(Aspect::Geometry);
 }
 
+void TabControl::ListEvents(std::vector<NamedEvent>& out) const {
+    Control::ListEvents(out);
+    out.push_back({"Click", &Click});
+}
+
 }  // namespace tarvex

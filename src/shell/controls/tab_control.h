@@ -29,7 +29,10 @@ class TabControl : public Control {
     float TabHeight() const { return tabHeight_; }
     void SetTabHeight(float height);
 
-    std::function<void(int previousTab)> Click;
+    Event<int> Click;  // the tab shown before
+
+  protected:
+    void ListEvents(std::vector<NamedEvent>& out) const override;
 
   private:
     struct Page {

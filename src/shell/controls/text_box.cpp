@@ -66,4 +66,9 @@ void TextBox::SetMultiLine(bool multiLine) {
     Notify(Aspect::Appearance);
 }
 
+void TextBox::ListEvents(std::vector<NamedEvent>& out) const {
+    Control::ListEvents(out);
+    out.push_back({"Change", &Change});
+}
+
 }  // namespace tarvex

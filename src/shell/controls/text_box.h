@@ -30,7 +30,10 @@ class TextBox : public Control {
     bool MultiLine() const { return multiLine_; }
     void SetMultiLine(bool multiLine);
 
-    std::function<void()> Change;
+    Event<> Change;
+
+  protected:
+    void ListEvents(std::vector<NamedEvent>& out) const override;
 
   private:
     std::string text_;

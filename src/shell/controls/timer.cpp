@@ -23,4 +23,9 @@ bool TimerControl::Fire() {
     return true;
 }
 
+void TimerControl::ListEvents(std::vector<NamedEvent>& out) const {
+    Component::ListEvents(out);
+    out.push_back({"Timer", &Timer});
+}
+
 }  // namespace tarvex

@@ -21,7 +21,10 @@ class TimerControl : public Component {
     // Runs the event when the timer is running; whether it ran.
     bool Fire();
 
-    std::function<void()> Timer;
+    Event<> Timer;
+
+  protected:
+    void ListEvents(std::vector<NamedEvent>& out) const override;
 
   private:
     int interval_ = 0;

@@ -55,4 +55,11 @@ void UpDown::UserDown() {
     if (DownClick) DownClick();
 }
 
+void UpDown::ListEvents(std::vector<NamedEvent>& out) const {
+    Control::ListEvents(out);
+    out.push_back({"Change", &Change});
+    out.push_back({"UpClick", &UpClick});
+    out.push_back({"DownClick", &DownClick});
+}
+
 }  // namespace tarvex

@@ -24,9 +24,12 @@ class UpDown : public Control {
     void UserUp();
     void UserDown();
 
-    std::function<void()> Change;
-    std::function<void()> UpClick;
-    std::function<void()> DownClick;
+    Event<> Change;
+    Event<> UpClick;
+    Event<> DownClick;
+
+  protected:
+    void ListEvents(std::vector<NamedEvent>& out) const override;
 
   private:
     void ClampSilently();

@@ -14,8 +14,6 @@
 
 namespace tarvex {
 
-class Editor;
-
 // A column of a bound grid: its heading and the field behind it.
 struct FixedColumn {
     const char* caption;

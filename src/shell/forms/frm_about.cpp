@@ -2,7 +2,7 @@
 
 namespace tarvex {
 
-frmAbout::frmAbout(Editor& ed) : Form("frmAbout"), ed(ed) {
+frmAbout::frmAbout() : Form("frmAbout") {
     Add(picAbout, "picAbout");
     Add(picOK, "picOK");
 }

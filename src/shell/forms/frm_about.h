@@ -6,9 +6,7 @@ namespace tarvex {
 
 class frmAbout : public Form {
   public:
-    explicit frmAbout(Editor& ed);
-
-    Editor& ed;
+    frmAbout();
 
     PictureSurface picAbout;
     PictureSurface picOK;

@@ -2,7 +2,7 @@
 
 namespace tarvex {
 
-frmAircraft::frmAircraft(Editor& ed) : Form("frmAircraft"), ed(ed) {
+frmAircraft::frmAircraft() : Form("frmAircraft") {
     SetCaption("Aircrafts");
     Move(0, 0, 9288, 6336);
 

@@ -9,9 +9,7 @@ namespace tarvex {
 
 class frmAircraft : public Form {
   public:
-    explicit frmAircraft(Editor& ed);
-
-    Editor& ed;
+    frmAircraft();
 
     DataSource datPrimaryRS;
     DataGrid grdDataGrid;

@@ -2,7 +2,7 @@
 
 namespace tarvex {
 
-frmGrndNames::frmGrndNames(Editor& ed) : Form("frmGrndNames"), ed(ed) {
+frmGrndNames::frmGrndNames() : Form("frmGrndNames") {
     SetCaption("Ground Layouts");
     // Centred on the main window at load.
     Move(0, 1, 7336, 6300);

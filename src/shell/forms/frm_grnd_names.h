@@ -9,9 +9,7 @@ namespace tarvex {
 
 class frmGrndNames : public Form {
   public:
-    explicit frmGrndNames(Editor& ed);
-
-    Editor& ed;
+    frmGrndNames();
 
     // The layout, and its units.
     DataSource datPrimaryRS;

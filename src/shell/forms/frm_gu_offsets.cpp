@@ -2,7 +2,7 @@
 
 namespace tarvex {
 
-frmGUOffsets::frmGUOffsets(Editor& ed) : Form("frmGUOffsets"), ed(ed) {
+frmGUOffsets::frmGUOffsets() : Form("frmGUOffsets") {
     // The load replaces it with the layout's name.
     SetCaption("Ground Units Offsets");
 

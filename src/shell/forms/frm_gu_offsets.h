@@ -9,9 +9,7 @@ namespace tarvex {
 
 class frmGUOffsets : public Form {
   public:
-    explicit frmGUOffsets(Editor& ed);
-
-    Editor& ed;
+    frmGUOffsets();
 
     DataSource dataGUOffsets;
     DataGrid dbgGUOffsets;

@@ -23,9 +23,8 @@ void SetRange(UpDown& spin, int min, int max, int value) {
 
 }  // namespace
 
-FrmMission::FrmMission(Editor& ed)
+FrmMission::FrmMission()
     : Form("FrmMission"),
-      ed(ed),
       optAllegiance("optAllegiance", 0, 3),
       OptFamily("OptFamily", 0, 3),
       chkWP("chkWP", 0, 15),

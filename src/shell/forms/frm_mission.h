@@ -7,9 +7,7 @@ namespace tarvex {
 
 class FrmMission : public Form {
   public:
-    explicit FrmMission(Editor& ed);
-
-    Editor& ed;
+    FrmMission();
 
     // ---- Window-wide ---------------------------------------------------------------------
     TabControl SSTab1;

@@ -2,7 +2,7 @@
 
 namespace tarvex {
 
-frmMsgScreen::frmMsgScreen(Editor& ed) : Form("frmMsgScreen"), ed(ed) {
+frmMsgScreen::frmMsgScreen() : Form("frmMsgScreen") {
     Add(lblMessage, "lblMessage");
 }
 

@@ -6,9 +6,7 @@ namespace tarvex {
 
 class frmMsgScreen : public Form {
   public:
-    explicit frmMsgScreen(Editor& ed);
-
-    Editor& ed;
+    frmMsgScreen();
 
     Label lblMessage;
 };

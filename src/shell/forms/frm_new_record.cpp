@@ -2,7 +2,7 @@
 
 namespace tarvex {
 
-frmNewRecord::frmNewRecord(Editor& ed) : Form("frmNewRecord"), ed(ed) {
+frmNewRecord::frmNewRecord() : Form("frmNewRecord") {
     // The caption is set by whoever opens the dialog, for groups or for pilots.
     Add(txtNewRecord, "txtNewRecord");
     Add(cmbPilotName, "cmbPilotName").SetStyle(kComboDropDownList);

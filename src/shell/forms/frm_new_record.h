@@ -6,9 +6,7 @@ namespace tarvex {
 
 class frmNewRecord : public Form {
   public:
-    explicit frmNewRecord(Editor& ed);
-
-    Editor& ed;
+    frmNewRecord();
 
     TextBox txtNewRecord;
     // The aircraft offered as pilot names; hidden for groups.

@@ -4,7 +4,7 @@
 
 namespace tarvex {
 
-frmSplash::frmSplash(Editor& ed) : Form("frmSplash"), ed(ed) {
+frmSplash::frmSplash() : Form("frmSplash") {
     Add(picSplash, "picSplash");
     // Started by the splash's load.
     Add(Timer1, "Timer1");

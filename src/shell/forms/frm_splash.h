@@ -6,9 +6,7 @@ namespace tarvex {
 
 class frmSplash : public Form {
   public:
-    explicit frmSplash(Editor& ed);
-
-    Editor& ed;
+    frmSplash();
 
     PictureSurface picSplash;
     Timer Timer1;

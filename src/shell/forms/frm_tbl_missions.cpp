@@ -2,8 +2,7 @@
 
 namespace tarvex {
 
-frmtblMissions::frmtblMissions(Editor& ed)
-    : Form("frmtblMissions"), ed(ed), optAllegiance("optAllegiance", 0, 3) {
+frmtblMissions::frmtblMissions() : Form("frmtblMissions"), optAllegiance("optAllegiance", 0, 3) {
     SetCaption("Missions Summary");
     Move(0, 0, 9300, 6340);
 

@@ -9,9 +9,7 @@ namespace tarvex {
 
 class frmtblMissions : public Form {
   public:
-    explicit frmtblMissions(Editor& ed);
-
-    Editor& ed;
+    frmtblMissions();
 
     DataSource datPrimaryRS;
     DataGrid grdDataGrid;

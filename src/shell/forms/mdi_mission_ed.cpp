@@ -14,7 +14,7 @@ void Under(MenuItem& parent, MenuItem& item, const char* caption, const char* sh
 
 }  // namespace
 
-MDIMissionED::MDIMissionED(Editor& ed) : Form("MDIMissionED"), ed(ed), mnudummy("mnudummy", 0, 4) {
+MDIMissionED::MDIMissionED() : Form("MDIMissionED"), mnudummy("mnudummy", 0, 4) {
     SetCaption("Tarvex Mission Editor");
     SetHeight(7296);
 

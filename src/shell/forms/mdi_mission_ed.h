@@ -8,9 +8,7 @@ namespace tarvex {
 
 class MDIMissionED : public Form {
   public:
-    explicit MDIMissionED(Editor& ed);
-
-    Editor& ed;
+    MDIMissionED();
 
     // The entries of the menu bar, left to right; each holds its entries as children.
     const std::vector<MenuItem*>& MenuBar() const { return menuBar_; }

@@ -6,7 +6,7 @@
 namespace tarvex {
 
 class ItemList {
-public:
+  public:
     virtual ~ItemList() = default;
     virtual void Clear() = 0;
     virtual void AddItem(const std::string& text) = 0;

@@ -1,4 +1,4 @@
-#include "ground/ground_reconstruction.h"
+#include "document/ground_reconstruction.h"
 
 #include <vector>
 
@@ -8,6 +8,7 @@
 #include "document/coord_text.h"
 #include "maps/map_loading.h"
 #include "shell/editor.h"
+#include "shell/forms/frm_mission.h"
 
 namespace tarvex {
 

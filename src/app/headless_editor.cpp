@@ -1,4 +1,6 @@
-#include "cli/headless_editor.h"
+#include "app/headless_editor.h"
+
+#include "app/make_editor.h"
 
 #include <filesystem>
 #include <system_error>
@@ -6,9 +8,9 @@
 #include "shell/settings.h"
 #include "shell/startup.h"
 
-namespace tarvex::cli {
+namespace tarvex {
 
-HeadlessEditor::HeadlessEditor() : editor_(std::make_unique<Editor>(services_.Bind())) {}
+HeadlessEditor::HeadlessEditor() : editor_(MakeEditor(services_.Bind())) {}
 
 HeadlessEditor::~HeadlessEditor() {
     if (editor_) editor_->db.CloseReferenceDatabase();
@@ -50,4 +52,4 @@ std::vector<MessageBoxRequest> HeadlessEditor::TakeMessages() {
     return shown;
 }
 
-}  // namespace tarvex::cli
+}  // namespace tarvex

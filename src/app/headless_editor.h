@@ -5,10 +5,10 @@
 #include <memory>
 #include <string>
 
+#include "platform/scripted_platform.h"
 #include "shell/editor.h"
-#include "shell/scripted_platform.h"
 
-namespace tarvex::cli {
+namespace tarvex {
 
 struct EditorFolders {
     std::string database;   // absolute
@@ -18,6 +18,7 @@ struct EditorFolders {
 
 class HeadlessEditor {
   public:
+    // An editor from MakeEditor, on scripted services.
     HeadlessEditor();
     HeadlessEditor(const HeadlessEditor&) = delete;
     HeadlessEditor& operator=(const HeadlessEditor&) = delete;
@@ -29,6 +30,7 @@ class HeadlessEditor {
     bool Start(const EditorFolders& folders, bool metric, std::string& error);
 
     Editor& ed() { return *editor_; }
+    ScriptedServices& services() { return services_; }
     ScriptedDialogs& dialogs() { return services_.dialogs; }
 
     // The boxes shown since the last call, forgotten once read.
@@ -39,4 +41,4 @@ class HeadlessEditor {
     std::unique_ptr<Editor> editor_;
 };
 
-}  // namespace tarvex::cli
+}  // namespace tarvex

@@ -1,4 +1,4 @@
-#include "shell/scripted_platform.h"
+#include "platform/scripted_platform.h"
 
 namespace tarvex {
 

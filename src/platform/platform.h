@@ -1,7 +1,7 @@
 #pragma once
 // What the program asks of the desktop: dialogs, sound, the settings store, the two registry
 // values, the second-copy channel and the clock. The Qt skin implements these; tests use the
-// scripted implementations of shell/scripted_platform.h.
+// scripted implementations of platform/scripted_platform.h.
 #include <cstdint>
 #include <optional>
 #include <string>

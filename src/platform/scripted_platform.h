@@ -10,7 +10,7 @@
 #include <tuple>
 #include <vector>
 
-#include "shell/platform.h"
+#include "platform/platform.h"
 
 namespace tarvex {
 

@@ -1,0 +1,7 @@
+#include "formations/wiring.h"
+
+namespace tarvex {
+
+void WireFormations(Editor&) {}
+
+}  // namespace tarvex

@@ -1,0 +1,7 @@
+#include "ground/wiring.h"
+
+namespace tarvex {
+
+void WireGround(Editor&) {}
+
+}  // namespace tarvex

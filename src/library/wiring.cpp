@@ -1,0 +1,7 @@
+#include "library/wiring.h"
+
+namespace tarvex {
+
+void WireLibrary(Editor&) {}
+
+}  // namespace tarvex

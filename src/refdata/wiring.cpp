@@ -1,0 +1,7 @@
+#include "refdata/wiring.h"
+
+namespace tarvex {
+
+void WireRefdata(Editor&) {}
+
+}  // namespace tarvex
