@@ -177,9 +177,12 @@ void FormView::SyncForm() {
 
 void FormView::closeEvent(QCloseEvent* event) {
     if (mode_ != Mode::Window) return QWidget::closeEvent(event);
-    // The close box hides the window through the model, as code would.
-    Guarded([this] { form_.SetVisible(false); });
-    event->accept();
+    // The close box unloads the window through the model, which may refuse.
+    Guarded([this] { form_.UserClose(); });
+    if (form_.Visible())
+        event->ignore();
+    else
+        event->accept();
 }
 
 }  // namespace tarvex::qt

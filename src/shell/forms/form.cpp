@@ -52,6 +52,45 @@ std::vector<Control*> Form::Controls() const {
     return controls;
 }
 
+void Form::LoadForm() {
+    if (loaded_) return;
+    loaded_ = true;
+    Load();
+}
+
+void Form::Show() {
+    LoadForm();
+    SetVisible(true);
+}
+
+void Form::UnloadForm() {
+    if (!loaded_) {
+        SetVisible(false);
+        return;
+    }
+    Unload();
+    loaded_ = false;
+    SetVisible(false);
+}
+
+void Form::UserClose() {
+    int cancel = 0;
+    QueryUnload(cancel);
+    if (cancel == 0) UnloadForm();
+}
+
+void Form::UserResize(float width, float height) {
+    Move(Left(), Top(), width, height);
+    Resize();
+}
+
+void Form::ListEvents(std::vector<NamedEvent>& out) const {
+    CaptionControl::ListEvents(out);
+    out.insert(
+        out.end(),
+        {{"Load", &Load}, {"QueryUnload", &QueryUnload}, {"Unload", &Unload}, {"Resize", &Resize}});
+}
+
 void Form::AddRows(ListControl& list, std::initializer_list<const char*> texts) {
     for (const char* text : texts) {
         const int row = list.ListCount();

@@ -31,6 +31,23 @@ class Form : public CaptionControl {
     // A form starts hidden: showing it is the business of whoever opens it.
     explicit Form(std::string name) : CaptionControl(std::move(name)) { SetVisible(false); }
 
+    // The life of a window. LoadForm raises Load the first time (a loaded form's controls keep
+    // their values while it is hidden); Show loads the form and makes it visible; UnloadForm
+    // raises Unload and hides the form, which loads afresh the next time. The close box of the
+    // window is UserClose: QueryUnload may cancel it (a non-zero cancel), then the form unloads.
+    bool Loaded() const { return loaded_; }
+    void LoadForm();
+    void Show();
+    void UnloadForm();
+    void UserClose();
+    // The skin reports a new size of the window; Resize runs after it is stored.
+    void UserResize(float width, float height);
+
+    Event<> Load;
+    Event<int&> QueryUnload;  // cancel
+    Event<> Unload;
+    Event<> Resize;
+
     // The component of that name, compared without regard to case, and index (-1 for one that
     // stands alone, the element's index for a control array). nullptr when there is none.
     // Menu entries, timers and dialogs are components but not controls: FindControl answers
@@ -43,6 +60,8 @@ class Form : public CaptionControl {
     std::vector<Control*> Controls() const;
 
   protected:
+    void ListEvents(std::vector<NamedEvent>& out) const override;
+
     // Names a component that stands alone and enters it in the register.
     template <typename T>
     T& Add(T& component, std::string name) {
@@ -80,6 +99,7 @@ class Form : public CaptionControl {
     }
 
   private:
+    bool loaded_ = false;
     struct Registered {
         std::string name;
         Component* single = nullptr;

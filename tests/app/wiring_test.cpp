@@ -1,0 +1,109 @@
+// Every handler the program defines runs on its event: the factory's editor has each of these
+// slots connected. A handler named here and left out of a wiring file, or a wiring file that
+// connects a slot twice, fails here before a user finds a dead button.
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "app/make_editor.h"
+#include "platform/scripted_platform.h"
+#include "shell/forms/form.h"
+#include "shell/forms/frm_about.h"
+#include "shell/forms/frm_aircraft.h"
+#include "shell/forms/frm_grnd_names.h"
+#include "shell/forms/frm_gu_offsets.h"
+#include "shell/forms/frm_mission.h"
+#include "shell/forms/frm_msg_screen.h"
+#include "shell/forms/frm_new_record.h"
+#include "shell/forms/frm_splash.h"
+#include "shell/forms/frm_tbl_missions.h"
+#include "shell/forms/mdi_mission_ed.h"
+
+namespace tarvex {
+namespace {
+
+// "Form.control_Event"; "Form.Form_Load" for an event of the form itself. A control array is
+// checked element by element.
+const char* const kHandlers[] = {
+    // The main window.
+    "MDIMissionED.mnuNew_Click",
+    "MDIMissionED.mnuOpen_Click",
+    "MDIMissionED.mnuSave_Click",
+    "MDIMissionED.mnuSaveAs_Click",
+    "MDIMissionED.mnudummy_Click",
+    "MDIMissionED.mnuExit_Click",
+    "MDIMissionED.mnuSummary_Click",
+    "MDIMissionED.mnuFormations_Click",
+    "MDIMissionED.mnuGroundUnits_Click",
+    "MDIMissionED.mnuWaypoints_Click",
+    "MDIMissionED.mnuCompact_Click",
+    "MDIMissionED.mnuACListNorm_Click",
+    "MDIMissionED.mnuACListInc_Click",
+    "MDIMissionED.mnuACListDec_Click",
+    "MDIMissionED.mnuAutoUpdate_Click",
+    "MDIMissionED.mnuDist_Click",
+    "MDIMissionED.mnuSndOn_Click",
+    "MDIMissionED.mnuIncVol_Click",
+    "MDIMissionED.mnuDecVol_Click",
+    "MDIMissionED.mnuTooltips_Click",
+    "MDIMissionED.mnuAbout_Click",
+    "frmSplash.Timer1_Timer",
+    "frmSplash.picSplash_Click",
+    "frmAbout.picOK_Click",
+    // The maps.
+    "FrmMission.mapWayPoints_Paint",
+    "FrmMission.mapWayPoints_MouseMove",
+    "FrmMission.mapGroundUnits_MouseMove",
+    "FrmMission.chkOverlay_Click",
+    "FrmMission.cmbSelectMap_Click",
+};
+
+struct Forms {
+    explicit Forms(Editor& ed)
+        : all{&ed.MDIMissionED, &ed.FrmMission,   &ed.frmNewRecord,   &ed.frmAircraft,
+              &ed.frmGrndNames, &ed.frmGUOffsets, &ed.frmtblMissions, &ed.frmMsgScreen,
+              &ed.frmSplash,    &ed.frmAbout} {}
+    Form* Find(const std::string& name) const {
+        for (Form* form : all)
+            if (form->Name() == name) return form;
+        return nullptr;
+    }
+    std::vector<Form*> all;
+};
+
+TEST(WiringTest, EveryHandlerRunsOnItsEvent) {
+    ScriptedServices services;
+    auto editor = MakeEditor(services.Bind());
+    const Forms forms(*editor);
+    for (const std::string entry : kHandlers) {
+        SCOPED_TRACE(entry);
+        const size_t dot = entry.find('.');
+        const size_t bar = entry.rfind('_');
+        ASSERT_NE(dot, std::string::npos);
+        ASSERT_NE(bar, std::string::npos);
+        Form* form = forms.Find(entry.substr(0, dot));
+        ASSERT_NE(form, nullptr) << "no such form";
+        const std::string control = entry.substr(dot + 1, bar - dot - 1);
+        const std::string event = entry.substr(bar + 1);
+
+        std::vector<Component*> targets;
+        if (control == "Form") {
+            targets.push_back(form);
+        } else if (Component* single = form->FindComponent(control)) {
+            targets.push_back(single);
+        } else {
+            for (Component* element : form->Components())
+                if (element->Index() >= 0 && element->Name() == control) targets.push_back(element);
+        }
+        ASSERT_FALSE(targets.empty()) << "no such control";
+        for (Component* target : targets) {
+            const EventSlot* slot = target->FindEvent(event);
+            ASSERT_NE(slot, nullptr) << "no such event";
+            EXPECT_TRUE(slot->Connected()) << "element " << target->Index();
+        }
+    }
+}
+
+}  // namespace
+}  // namespace tarvex
