@@ -5,6 +5,7 @@
 #include "common/text.h"
 #include "document/coord_text.h"
 #include "document/ground_reconstruction.h"
+#include "ground/layout_markers.h"
 #include "refdata/reference_lookups.h"
 #include "shell/editor.h"
 #include "shell/forms/frm_mission.h"
@@ -117,7 +118,7 @@ void TakeLayoutsNearRunway(Editor& ed, std::int32_t rwyId, float rwyLat, float r
         frm.lstGUAdded.SetItemData(
             k, (row + 1) * 10000 + LayoutIdFromItemData(frm.lstGUAdded.ItemData(k)));
         frm.txtGULatLon.SetText(doc.GULat(k) + " " + doc.GULon(k));
-        // TODO: DrawLayoutMarkers once the ground tab has it.
+        DrawLayoutMarkers(ed);
         st.NearestLayoutDist = dist;
     }
 }

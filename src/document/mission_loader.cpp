@@ -13,6 +13,7 @@
 #include "document/mis_section_readers.h"
 #include "document/mis_text.h"
 #include "maps/map_loading.h"
+#include "maps/waypoint_controls.h"
 #include "refdata/transaction.h"
 #include "shell/editor.h"
 #include "shell/forms/frm_mission.h"
@@ -116,7 +117,7 @@ void RebuildTabs(Editor& ed) {
     frm.lstPoints.SetEnabled(true);
     ed.StepText = "Selecting the 1st Waypoint for this mission on the [Waypoints List]";
     frm.lstPoints.SetListIndex(0);
-    // TODO: SetWaypointControlsEnabled(true) once the waypoint editor has it.
+    SetWaypointControlsEnabled(ed, true);
 
     ed.StepText = "Selecting the 1st Ground Layout for this mission on the [Mission Units]";
     if (frm.lstGUAdded.ListCount() > 0) frm.lstGUAdded.SetListIndex(0);

@@ -1,5 +1,6 @@
 #include "maps/path_overlays.h"
 
+#include "ground/layout_markers.h"
 #include "maps/path_drawing.h"
 #include "shell/editor.h"
 #include "shell/forms/frm_mission.h"
@@ -19,8 +20,7 @@ void chkOverlay_Click(Editor& ed, int path) {
     const bool onlyClear = !checked && map && map->Tag() == "False";
     if (onlyClear) map->Cls();
     if (!onlyClear && map) DrawPaths(ed, *map);
-    // TODO: DrawLayoutMarkers() here once the ground layouts of a mission can draw their
-    // markers; until then the cleared ground units map stays blank.
+    DrawLayoutMarkers(ed);
 }
 
 }  // namespace tarvex

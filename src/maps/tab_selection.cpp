@@ -1,8 +1,10 @@
 #include "maps/tab_selection.h"
 
 #include "document/mission_reset.h"
+#include "ground/layout_markers.h"
 #include "maps/map_loading.h"
 #include "maps/path_drawing.h"
+#include "maps/runway_controls.h"
 #include "shell/editor.h"
 #include "shell/forms/frm_mission.h"
 #include "shell/forms/mdi_mission_ed.h"
@@ -24,7 +26,7 @@ void ShowFormationsTab(Editor& ed) {
     frm.optColor(0).SetValue(true);
     frm.cmbRunways.SetVisible(false);
     frm.lblFlyBy.SetVisible(false);
-    // TODO: ShowRunwayControlsForGroup() once the airfield controls of a path exist.
+    ShowRunwayControlsForGroup(ed);
     UpdateSetWaypointsButton(ed, true);
     frm.fraAirfields.Move(5940, 960);
     frm.fraAirfields.ZOrder(0);
@@ -36,7 +38,7 @@ void ShowGroundUnitsTab(Editor& ed) {
     ed.ActiveMap = &frm.mapGroundUnits;
     frm.fraPathColor.Move(72, 5376);
     LoadMap(ed, frm.mapGroundUnits, frm.cmbGUMap.ListIndex());
-    // TODO: DrawLayoutMarkers() once the ground layouts of a mission can draw their markers.
+    DrawLayoutMarkers(ed);
 }
 
 void ShowWaypointsTab(Editor& ed) {
@@ -45,8 +47,12 @@ void ShowWaypointsTab(Editor& ed) {
     frm.cmbRunways.SetVisible(true);
     frm.lblFlyBy.SetVisible(true);
     frm.fraAirfields.Move(5292, 384);
-    // TODO: ShowRunwayControlsForPath() for the first optColor that is set, once the airfield
-    // controls of a path exist.
+    for (int p = 0; p < Mission::kMaxPaths; ++p) {
+        if (frm.optColor(p).Value()) {
+            ShowRunwayControlsForPath(ed, p);
+            break;
+        }
+    }
     SelectAirfieldRow(frm.cmbStartAtRwy, doc.PathAirfieldStart(doc.CurrentPath));
     SelectAirfieldRow(frm.cmbEndAtRwy, doc.PathAirfieldEnd(doc.CurrentPath));
     if (frm.lstPoints.ListCount() > 0) SetEditMenusEnabled(ed, true);

@@ -9,10 +9,15 @@
 #include "document/mission_loader_state.h"
 #include "document/saver_state.h"
 #include "document/unit_placement.h"
+#include "formations/formations_state.h"
+#include "ground/ground_state.h"
 #include "ground/layout_transform.h"
+#include "library/library_state.h"
 #include "maps/map_drawing_state.h"
 #include "maps/map_projection.h"
+#include "maps/waypoint_state.h"
 #include "platform/platform.h"
+#include "refdata/aircraft_records_state.h"
 #include "refdata/reference_database.h"
 #include "shell/app_settings.h"
 #include "shell/shell_state.h"
@@ -62,6 +67,13 @@ class Editor {
 
     // The SELECT of the aircraft filter, without its ORDER BY.
     std::string ACQuery = "SELECT ShortName,ACId FROM Aircraft";
+
+    // The working values of each subsystem's handlers.
+    WaypointState waypoints;
+    FormationsState formations;
+    GroundState ground;
+    LibraryState library;
+    AircraftRecordsState aircraftRecords;
 
     AppSettings options;
     ShellState shell;

@@ -1,0 +1,10 @@
+#pragma once
+// Whether the waypoint editor has a point to work on: the point controls, the Edit menu's
+// entries and btnClrPoint, whose visibility doubles as the sign.
+namespace tarvex {
+
+class Editor;
+
+void SetWaypointControlsEnabled(Editor& ed, bool state);
+
+}  // namespace tarvex
