@@ -1,6 +1,7 @@
 #include "shell/controls/list_box.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "common/error.h"
 
@@ -95,6 +96,18 @@ void ListBox::SetTopIndex(int index) {
     if (index == topIndex_) return;
     topIndex_ = index;
     Notify(Aspect::Selection);
+}
+
+void ListBox::SetRowHeight(float height) {
+    if (height < 0) Raise(kErrInvalidProperty);
+    if (height == rowHeight_) return;
+    rowHeight_ = height;
+    Notify(Aspect::Appearance);
+}
+
+int ListBox::RowAt(float y) const {
+    if (rowHeight_ <= 0) return -1;
+    return TopIndex() + static_cast<int>(std::floor(y / rowHeight_));
 }
 
 }  // namespace tarvex

@@ -32,6 +32,14 @@ class ListBox : public ListControl {
     int TopIndex() const;
     void SetTopIndex(int index);
 
+    // The height of a row in map units; 0 leaves it to the desktop. With a height, the row
+    // under a point of the list is TopIndex + Y / RowHeight.
+    float RowHeight() const { return rowHeight_; }
+    void SetRowHeight(float height);
+    // The row under Y (map units from the list's top), whether or not it holds a row; -1 when
+    // the list has no row height.
+    int RowAt(float y) const;
+
   protected:
     void StoreListIndex(int index) override;
     void SelectedTextChanged() override;
@@ -40,6 +48,7 @@ class ListBox : public ListControl {
   private:
     int multiSelect_ = kMultiSelectNone;
     int topIndex_ = 0;
+    float rowHeight_ = 0;
 };
 
 }  // namespace tarvex
