@@ -183,6 +183,7 @@ TEST_F(SkinTest, UserChoicesAndCodeSelectionsAreOneEvent) {
     auto* list = qobject_cast<QListWidget*>(Widget("lstGroupName"));
     ASSERT_NE(list, nullptr);
     int listClicks = 0;
+    frm.lstGroupName.Click.Disconnect();
     frm.lstGroupName.Click.Connect([&] { ++listClicks; });
     frm.lstGroupName.AddItem("Alpha");
     frm.lstGroupName.AddItem("Bravo");
@@ -257,6 +258,42 @@ TEST_F(SkinTest, SharedFramesFollowTheTabOnShow) {
             EXPECT_EQ(airfields->parentWidget(), tabs->widget(c.tab));
         }
     }
+}
+
+TEST_F(SkinTest, NewRecordFloatsOverTheMainWindowAndAddsToTheGroupList) {
+    auto& frm = session->ed().FrmMission;
+    session->ShowTab(1);
+    QApplication::processEvents();
+    QTest::mouseClick(Widget("btnGroupName"), Qt::LeftButton);
+    QApplication::processEvents();
+    FormView* dialog = session->window().FormWindow("frmNewRecord");
+    ASSERT_NE(dialog, nullptr);
+    QWidget* window = dialog->window();
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_TRUE(window->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+    EXPECT_EQ(window->windowType(), Qt::Tool);
+    EXPECT_FALSE(window->isModal());
+    EXPECT_EQ(window->windowTitle(), "Enter Group Name");
+
+    auto* box = qobject_cast<QLineEdit*>(dialog->WidgetOf("txtNewRecord"));
+    ASSERT_NE(box, nullptr);
+    box->selectAll();
+    QTest::keyClicks(box, "Top Cover");
+    QTest::mouseClick(dialog->WidgetOf("btnAddRecord"), Qt::LeftButton);
+    auto* groups = qobject_cast<QListWidget*>(Widget("lstGroupName"));
+    ASSERT_NE(groups, nullptr);
+    ASSERT_EQ(groups->count(), 1);
+    EXPECT_EQ(groups->item(0)->text(), "Top Cover");
+    EXPECT_EQ(frm.lstGroupName.ListIndex(), 0);
+    // Not modal: the main window's rows take clicks while the dialog stays open.
+    QTest::mouseClick(dialog->WidgetOf("btnAddRecord"), Qt::LeftButton);
+    QTest::mouseClick(groups->viewport(), Qt::LeftButton, {},
+                      groups->visualItemRect(groups->item(0)).center());
+    EXPECT_EQ(frm.lstGroupName.ListIndex(), 0);
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_EQ(box->text(), "Top Cover");
+    QTest::mouseClick(dialog->WidgetOf("btnCancel"), Qt::LeftButton);
+    EXPECT_FALSE(window->isVisible());
 }
 
 TEST(SkinServices, FileFiltersTakeQtsForm) {

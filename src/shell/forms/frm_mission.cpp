@@ -76,6 +76,8 @@ FrmMission::FrmMission()
     // ---- Formations: groups ----------------------------------------------------------------
     Add(fraGroupInfo, "fraGroupInfo");
     Add(lstGroupName, "lstGroupName").SetTag("Groups");
+    // The row under the pointer is found from this height.
+    lstGroupName.SetRowHeight(190);
     Add(btnGroupName, "btnGroupName").SetCaption("...");
     Add(btnDeleteGroup, "btnDeleteGroup").SetCaption("Delete");
     btnDeleteGroup.SetVisible(false);
@@ -122,6 +124,7 @@ FrmMission::FrmMission()
     Add(fraPilotInfo, "fraPilotInfo");
     Add(lstPilotName, "lstPilotName").SetTag("Pilots");
     lstPilotName.SetMultiSelect(kMultiSelectExtended);
+    lstPilotName.SetRowHeight(190);
     Add(btnPilotName, "btnPilotName").SetCaption("...");
     Add(btnDeletePilot, "btnDeletePilot").SetCaption("Delete");
     btnDeletePilot.SetVisible(false);
