@@ -21,6 +21,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <QTimer>
@@ -723,9 +724,11 @@ class ComboBinding : public ControlBinding {
         const float scale = model_.DropDownScale();
         QWidget* popup = combo_->view()->window();
         if (scale <= 0 || !popup) return;
-        const int height = qRound(popup->height() * scale);
-        const int top = std::max(0, combo_->mapToGlobal(QPoint(0, 0)).y() - height);
-        popup->setGeometry(popup->x(), top, popup->width(), height);
+        // Its bottom stays at the combo's top; a list taller than the room above is cut.
+        const int bottom = combo_->mapToGlobal(QPoint(0, 0)).y();
+        const int screenTop = combo_->screen()->availableGeometry().top();
+        const int height = std::min(qRound(popup->height() * scale), bottom - screenTop);
+        popup->setGeometry(popup->x(), bottom - height, popup->width(), height);
     }
     void WireEdit() {
         QLineEdit* edit = combo_->lineEdit();

@@ -28,6 +28,11 @@ void ListBox::SelectedTextChanged() {
             row.selected = false;
 }
 
+void ListBox::Clear() {
+    topIndex_ = 0;
+    ListControl::Clear();
+}
+
 void ListBox::SetMultiSelect(int mode) {
     if (mode < kMultiSelectNone || mode > kMultiSelectExtended) Raise(kErrInvalidProperty);
     if (mode == multiSelect_) return;

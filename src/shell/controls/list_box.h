@@ -16,6 +16,9 @@ class ListBox : public ListControl {
   public:
     using ListControl::ListControl;
 
+    // Also shows the list from its top again.
+    void Clear() override;
+
     int MultiSelect() const { return multiSelect_; }
     // Switching the mode drops every selection but the ListIndex row's.
     void SetMultiSelect(int mode);
