@@ -164,5 +164,34 @@ TEST_F(FormationsTest, DeletingAPilotMovesThePlayerMarkUp) {
     EXPECT_TRUE(frm.btnDeleteGroup.Visible());
 }
 
+// The right button held on a group shows its first path beside the pointer, then puts the
+// map back; a group without a path shows nothing.
+TEST_F(FormationsTest, RightButtonPreviewsTheGroupsFirstPath) {
+    AddGroups(2);
+    doc.GrpPaths(1) = "5002:60,5004:40";
+    PictureSurface& map = frm.mapWayPoints;
+    map.Move(72, 384);
+    map.SetVisible(false);
+    ed.drawing.OverlayOn = true;
+    const float rowOne = frm.lstGroupName.RowHeight() * 1.5f;
+
+    frm.lstGroupName.RaiseMouseDown(kRightButton, 0, 300, rowOne);
+    EXPECT_EQ(frm.lstGroupName.ListIndex(), 1);
+    EXPECT_TRUE(frm.optColor(2).Value());
+    EXPECT_TRUE(map.Visible());
+    EXPECT_FALSE(ed.drawing.OverlayOn);
+    EXPECT_FLOAT_EQ(map.Left(), frm.lstGroupName.Left() + frm.fraGroupInfo.Left() + 300);
+    EXPECT_FLOAT_EQ(map.Top(), frm.fraGroupInfo.Top());
+    EXPECT_EQ(Status(), "Assigned Path :5002:60,5004:40");
+    frm.lstGroupName.RaiseMouseUp(kRightButton, 0, 300, rowOne);
+    EXPECT_FALSE(map.Visible());
+    EXPECT_TRUE(ed.drawing.OverlayOn);
+    EXPECT_FLOAT_EQ(map.Left(), 72);
+
+    frm.lstGroupName.RaiseMouseDown(kRightButton, 0, 300, 10);
+    EXPECT_EQ(frm.lstGroupName.ListIndex(), 1);
+    EXPECT_FALSE(map.Visible());
+}
+
 }  // namespace
 }  // namespace tarvex::testing

@@ -277,6 +277,8 @@ TEST_F(SkinTest, NewRecordFloatsOverTheMainWindowAndAddsToTheGroupList) {
 
     auto* box = qobject_cast<QLineEdit*>(dialog->WidgetOf("txtNewRecord"));
     ASSERT_NE(box, nullptr);
+    // A click in the box keeps what is typed there from now on.
+    QTest::mouseClick(box, Qt::LeftButton);
     box->selectAll();
     QTest::keyClicks(box, "Top Cover");
     QTest::mouseClick(dialog->WidgetOf("btnAddRecord"), Qt::LeftButton);
@@ -285,13 +287,14 @@ TEST_F(SkinTest, NewRecordFloatsOverTheMainWindowAndAddsToTheGroupList) {
     ASSERT_EQ(groups->count(), 1);
     EXPECT_EQ(groups->item(0)->text(), "Top Cover");
     EXPECT_EQ(frm.lstGroupName.ListIndex(), 0);
+    EXPECT_EQ(box->text(), "Top Cover");
     // Not modal: the main window's rows take clicks while the dialog stays open.
     QTest::mouseClick(dialog->WidgetOf("btnAddRecord"), Qt::LeftButton);
+    ASSERT_EQ(groups->count(), 2);
     QTest::mouseClick(groups->viewport(), Qt::LeftButton, {},
                       groups->visualItemRect(groups->item(0)).center());
     EXPECT_EQ(frm.lstGroupName.ListIndex(), 0);
     EXPECT_TRUE(window->isVisible());
-    EXPECT_EQ(box->text(), "Top Cover");
     QTest::mouseClick(dialog->WidgetOf("btnCancel"), Qt::LeftButton);
     EXPECT_FALSE(window->isVisible());
 }
