@@ -9,7 +9,6 @@
 #include "shell/forms/frm_mission.h"
 #include "shell/forms/frm_tbl_missions.h"
 #include "shell/forms/mdi_mission_ed.h"
-#include "shell/recent_files.h"
 
 namespace tarvex {
 
@@ -37,12 +36,9 @@ void SetLayoutEditMode(Editor& ed, bool flag) {
     if (ed.db.SummariesLoaded) mdi.mnuMissions.SetEnabled(!flag);
     if (!ed.frmGrndNames.Loaded() && !ed.frmAircraft.Loaded() && !ed.frmtblMissions.Loaded())
         mdi.mnuCompact.SetEnabled(!flag);
-    if (flag) {
-        for (int k = 1; k <= 4; ++k)
-            mdi.mnudummy(k).SetVisible(false);
-    } else {
-        ShowRecentFiles(ed);
-    }
+    // The recent files come back as far as there are any.
+    for (int k = 1; k <= 4; ++k)
+        mdi.mnudummy(k).SetVisible(!flag && !ed.options.RecentFiles[k].empty());
 }
 
 void LeaveLayoutEditor(Editor& ed) {

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "document/mission_reset.h"
+#include "ground/layout_lists.h"
 #include "maps/tab_selection.h"
 #include "shell/forms/frm_mission.h"
 #include "shell/mission_form_load.h"
@@ -46,6 +47,19 @@ class GroundTab : public ::testing::Test {
         const int row = frm.cmbAirfieldLayout.FindRow(layout);
         ASSERT_GE(row, 0) << layout;
         frm.cmbAirfieldLayout.SetListIndex(row);
+    }
+
+    // A layout of the designer's own (not a default one), listed in the tab's lists; `units`
+    // are "(UnitType,XOffset,YOffset)" rows, possibly none.
+    void AddLayout(int id, const std::string& name, int guType = 1, const std::string& units = "") {
+        ed.db.theDB.Execute(
+            "INSERT INTO GrndNames (ID,LayoutName,UnitTotal,IsDefault,GUType) VALUES (" +
+            std::to_string(id) + ",'" + name + "',0," + "0," + std::to_string(guType) + ");");
+        if (!units.empty())
+            ed.db.theDB.Execute("INSERT INTO GrndTypes (ID,UnitType,XOffset,YOffset) SELECT " +
+                                std::to_string(id) + ",column1,column2,column3 FROM (VALUES " +
+                                units + ");");
+        FillLayoutLists(ed);
     }
 
     // Types the text into txtGULatLon key by key, as the skin reports typing.

@@ -234,11 +234,7 @@ TEST_F(LayoutEditorTest, DrawsTheRunwaysAndALegendRowPerType) {
 // A unit ahead of the origin stands above the centre; a click there reads back its offset,
 // in feet or metres.
 TEST_F(LayoutEditorTest, MapToOffsetReadsBackTheOffsetDrawnUnderThePointer) {
-    ed.db.theDB.Execute(
-        "INSERT INTO GrndNames (ID,LayoutName,UnitTotal,IsDefault,GUType) VALUES "
-        "(60,'One Hut',4031,0,1);"
-        "INSERT INTO GrndTypes (ID,UnitType,XOffset,YOffset) VALUES (60,4031,1,0);");
-    FillLayoutLists(ed);
+    AddLayout(60, "One Hut", 1, "(4031,1,0)");
     Place("One Hut", 3000, 3000);
     Enter(1);
     const auto units = Circles(36);
@@ -296,10 +292,7 @@ TEST_F(LayoutEditorTest, PositionControlsMoveTheCentreAlongTheHeading) {
 }
 
 TEST_F(LayoutEditorTest, ALayoutGoneFromTheDatabaseLeavesTheMissionAnEmptyOneOpens) {
-    ed.db.theDB.Execute(
-        "INSERT INTO GrndNames (ID,LayoutName,UnitTotal,IsDefault,GUType) VALUES "
-        "(60,'Nothing Yet',0,0,1);");
-    FillLayoutLists(ed);
+    AddLayout(60, "Nothing Yet");
     Place("Nothing Yet", 3000, 3000);
     // A layout without units: the origin, the cursor and the headings, no legend, no box.
     Enter(1);
@@ -324,10 +317,7 @@ TEST_F(LayoutEditorTest, ALayoutGoneFromTheDatabaseLeavesTheMissionAnEmptyOneOpe
 }
 
 TEST_F(LayoutEditorTest, StationaryListFollowsTheLockAndFloatsWhereItIsDropped) {
-    ed.db.theDB.Execute(
-        "INSERT INTO GrndNames (ID,LayoutName,UnitTotal,IsDefault,GUType) VALUES "
-        "(60,'My Site',0,0,1);");
-    FillLayoutLists(ed);
+    AddLayout(60, "My Site");
     Place("My Site", 3000, 3000);
     ed.ground.StationaryShown = true;
     frm.chkStationary.SetValue(kChecked);

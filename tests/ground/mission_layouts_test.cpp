@@ -81,10 +81,7 @@ TEST_F(MissionLayoutsTest, PressesPickTheLowestRowWithinTheOpenBox) {
 }
 
 TEST_F(MissionLayoutsTest, PlacesAnAirfieldLayoutOnItsRunwayWithTheAirfieldInItsItemData) {
-    ed.db.theDB.Execute(
-        "INSERT INTO GrndNames (ID,LayoutName,UnitTotal,IsDefault,GUType) VALUES "
-        "(60,'Copied Field',4002,0,2);");
-    FillLayoutLists(ed);
+    AddLayout(60, "Copied Field", 2);
     const struct {
         int airfield;
         const char* layout;
@@ -266,12 +263,7 @@ class LayoutRecordDeletionTest : public MissionLayoutsTest {
   protected:
     void SetUp() override {
         MissionLayoutsTest::SetUp();
-        ed.db.theDB.Execute(
-            "INSERT INTO GrndNames (ID,LayoutName,UnitTotal,IsDefault,GUType) VALUES "
-            "(60,'My Flak',8004,0,1);"
-            "INSERT INTO GrndTypes (ID,UnitType,XOffset,YOffset) VALUES (60,4002,0,0),"
-            "(60,4002,0.1,0);");
-        FillLayoutLists(ed);
+        AddLayout(60, "My Flak", 1, "(4002,0,0),(4002,0.1,0)");
         Place("My Flak", 1000, 1000);
         Place("Army Camp", 2000, 1000);
         Place("My Flak", 3000, 1000);
@@ -330,10 +322,7 @@ TEST_F(LayoutRecordDeletionTest, ADatabaseErrorLeavesTheDatabaseAndTheMissionWho
 }
 
 TEST_F(LayoutRecordDeletionTest, ARecordGoneElsewhereLeavesTheFlagsAndHidesDelete) {
-    ed.db.theDB.Execute(
-        "INSERT INTO GrndNames (ID,LayoutName,UnitTotal,IsDefault,GUType) VALUES "
-        "(61,'Other Site',0,0,1);");
-    FillLayoutLists(ed);
+    AddLayout(61, "Other Site");
     Place("Other Site", 4000, 1000);
     // Another running copy deletes the layout that rows 0 and 2 use.
     ed.db.theDB.Execute("DELETE FROM GrndNames WHERE ID=60;");
