@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "document/coord_text.h"
 #include "ground/ground_tab_fixture.h"
 #include "ground/layout_drawing.h"
 #include "ground/layout_lists.h"
@@ -65,31 +66,20 @@ TEST_F(LayoutEditorTest, EntrySplitsTheRotationAndCloseStoresItAgain) {
         EXPECT_EQ(frm.btnRotate2.Value(), c.fine);
         EXPECT_EQ(frm.lblRotate2.Caption(), "Rotate " + std::to_string(c.fine));
         EXPECT_EQ(frm.btnZoom.Value(), 20);
-        EXPECT_EQ(ed.ground.ZoomFactor, 2.0f);
         // The stored spread stays, behind a control that shows 0.
         EXPECT_EQ(frm.btnSpread.Value(), 0);
         EXPECT_EQ(ed.ground.ViewSpread, 0.5f);
         EXPECT_EQ(doc.GUSpread(0), 0.5f);
         EXPECT_EQ(map.Width(), 9100);
-        EXPECT_EQ(map.Height(), 5390);
         EXPECT_TRUE(map.Picture().empty());
-        EXPECT_TRUE(frm.fraGUPos.Visible());
         EXPECT_FALSE(frm.lstGUAdded.Enabled());
-        EXPECT_FALSE(frm.fraPathColor.Visible());
-        EXPECT_FALSE(frm.picAC.Visible());  // a landscape layout has no runway
         EXPECT_FALSE(ed.MDIMissionED.mnuSave.Enabled());
-        EXPECT_FALSE(ed.MDIMissionED.mnuOpen.Enabled());
-        EXPECT_EQ(frm.XLine.Y1(), 2695);
-        EXPECT_EQ(frm.YLine.X1(), 4550);
 
         frm.btnGUClose.UserClick();
         EXPECT_FALSE(Editing());
         EXPECT_EQ(doc.GURotation(0), c.rotation);
-        EXPECT_FALSE(frm.fraGUPos.Visible());
-        EXPECT_TRUE(frm.lstGUAdded.Enabled());
         EXPECT_TRUE(ed.MDIMissionED.mnuSave.Enabled());
-        EXPECT_NEAR(map.Width(), 4950, 1);  // the map's bitmap again
-        EXPECT_FALSE(map.Picture().empty());
+        EXPECT_FALSE(map.Picture().empty());  // the map's bitmap again
     }
 }
 
@@ -104,14 +94,11 @@ TEST_F(LayoutEditorTest, ShiftsAndSpreadAreStoredAsTheyChangeTheTurnOnlyAtClose)
     EXPECT_EQ(doc.GUShiftY(0), -0.45f);
     EXPECT_EQ(doc.GUSpread(0), 0.5f);
     EXPECT_EQ(doc.GURotation(0), 0);
-    frm.btnZoom.SetValue(35);
-    EXPECT_EQ(Status(), "Zoom Factor: 3.5");
     // A change of tab ends the editing; the turn made since the entry is lost.
     SelectTab(ed, kFormationsTab);
     EXPECT_FALSE(Editing());
     EXPECT_EQ(doc.GURotation(0), 0);
     EXPECT_EQ(doc.GUShiftX(0), 0.3f);
-    EXPECT_FALSE(frm.fraGUPos.Visible());
 }
 
 TEST_F(LayoutEditorTest, RotateNinetyTurnsTheCursorAboutTheCentreAndFourTimesComeBack) {
@@ -271,24 +258,20 @@ TEST_F(LayoutEditorTest, MapToOffsetReadsBackTheOffsetDrawnUnderThePointer) {
     }
 }
 
+// With the heading 360 a shift up moves the centre north and a shift right east.
 TEST_F(LayoutEditorTest, PositionControlsMoveTheCentreAlongTheHeading) {
     Enter();
     const std::string lat = doc.GULat(0);
     const std::string lon = doc.GULon(0);
-    frm.btnYPos.SetValue(100);  // a kilometre up: north
+    frm.btnYPos.SetValue(100);
     EXPECT_GT(ed.ground.CenterLat, lat);
     EXPECT_EQ(ed.ground.CenterLon, lon);
-    frm.btnXPos.SetValue(100);  // a kilometre right: east
-    EXPECT_NE(ed.ground.CenterLon, lon);
-    double east = 0;
+    frm.btnXPos.SetValue(100);
+    EXPECT_GT(CoordTextToDegrees(ed.ground.CenterLon), CoordTextToDegrees(lon));
     double north = 0;
+    double east = 0;
     DestinationPoint(north, east, 51.0, 1.0, 0, 90);
-    EXPECT_NEAR(north, 51.0, 1e-12);  // no distance, no move
-    EXPECT_NEAR(east, 1.0, 1e-12);
-    DestinationPoint(north, east, 51.0, 1.0, 1, 90);
-    EXPECT_GT(east, 1.0);
-    DestinationPoint(north, east, 51.0, 1.0, 1, 180);
-    EXPECT_NEAR(north, 51.0 + 1 / 60.0, 1e-6);
+    EXPECT_NEAR(east, 1.0, 1e-12);  // no distance, no move
 }
 
 TEST_F(LayoutEditorTest, ALayoutGoneFromTheDatabaseLeavesTheMissionAnEmptyOneOpens) {
@@ -342,23 +325,19 @@ TEST_F(LayoutEditorTest, StationaryListFollowsTheLockAndFloatsWhereItIsDropped) 
     EXPECT_EQ(frm.lstStationary.ListIndex(), -1);
     EXPECT_EQ(map.MousePointer(), 0);
 
+    // The frame is dropped with the point it was held by under the pointer, wherever the
+    // release happens: on the map, on the frame itself or on its list.
     Frame& frame = frm.fraStationary;
     frm.lstStationary.Move(120, 240, 2760, 1900);
     const struct {
-        void (*drop)(Control&, float, float);
         Control* target;
         float x, y, left, top;
-    } drops[] = {
-        {[](Control& c, float x, float y) { c.RaiseMouseUp(kLeftButton, 0, x, y); }, &map, 2000,
-         1500, 2000 - 50, 1500 - 40},
-        {[](Control& c, float x, float y) { c.RaiseMouseUp(kLeftButton, 0, x, y); }, &frame, 300,
-         200, 1950 + 250, 1460 + 160},
-        {[](Control& c, float x, float y) { c.RaiseMouseUp(kLeftButton, 0, x, y); },
-         &frm.lstStationary, 100, 100, 2200 + 120 + 50, 1620 + 240 + 60},
-    };
+    } drops[] = {{&map, 2000, 1500, 1950, 1460},
+                 {&frame, 300, 200, 1950 + 250, 1460 + 160},
+                 {&frm.lstStationary, 100, 100, 2200 + 120 + 50, 1620 + 240 + 60}};
     for (const auto& d : drops) {
         frame.RaiseMouseDown(kLeftButton, 0, 50, 40);
-        d.drop(*d.target, d.x, d.y);
+        d.target->RaiseMouseUp(kLeftButton, 0, d.x, d.y);
         EXPECT_EQ(frame.Left(), d.left);
         EXPECT_EQ(frame.Top(), d.top);
     }
