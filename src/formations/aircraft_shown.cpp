@@ -80,7 +80,7 @@ void UpdateSelectedPilotsAC(Editor& ed) {
     const int row = frm.cmbMovingType.ListIndex();
     if (row < 0) return;
     const auto id = static_cast<std::int16_t>(frm.cmbMovingType.ItemData(row));
-    for (int p : SelectedRows(frm.lstPilotName))
+    for (int p : frm.lstPilotName.SelectedRows())
         if (p <= Mission::kPilotUpper) doc.PilotAC(doc.CurrentGroup, p) = id;
     if (doc.GrpPilotIsAC(doc.CurrentGroup) == 1) NamePilotsAfterAC(ed);
 }

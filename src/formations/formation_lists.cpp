@@ -16,13 +16,6 @@ void SelectRow(ListBox& list, int row) {
     }
 }
 
-std::vector<int> SelectedRows(const ListBox& list) {
-    std::vector<int> rows;
-    for (int i = 0; i < list.ListCount(); ++i)
-        if (list.Selected(i)) rows.push_back(i);
-    return rows;
-}
-
 int PilotCount(const Mission& doc, int group) {
     int count = 0;
     while (count <= Mission::kPilotUpper && !doc.PilotName(group, count).empty())

@@ -13,8 +13,6 @@ struct Mission;
 // Makes the row the list's current row, alone selected, as a click on it does; the list's
 // click runs when that changed anything.
 void SelectRow(ListBox& list, int row);
-// The selected rows, in order.
-std::vector<int> SelectedRows(const ListBox& list);
 
 // The pilots of a group: the slots up to the first empty name.
 int PilotCount(const Mission& doc, int group);

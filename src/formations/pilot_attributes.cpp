@@ -17,7 +17,7 @@ template <typename Values>
 void WriteToSelectedPilots(Editor& ed, const ComboBox& combo, Values& values) {
     const int row = combo.ListIndex();
     if (!ed.doc.EventsOn || row < 0) return;
-    for (int p : SelectedRows(ed.FrmMission.lstPilotName))
+    for (int p : ed.FrmMission.lstPilotName.SelectedRows())
         if (p <= Mission::kPilotUpper)
             values(ed.doc.CurrentGroup, p) = static_cast<std::uint8_t>(row);
 }
@@ -44,7 +44,7 @@ void chkPoints_MouseUp(Editor& ed, int, int, float, float) {
     Mission& doc = ed.doc;
     if (!doc.EventsOn) return;
     const std::uint8_t points = ed.FrmMission.chkPoints.Value() == kChecked ? 1 : 0;
-    for (int p : SelectedRows(ed.FrmMission.lstPilotName))
+    for (int p : ed.FrmMission.lstPilotName.SelectedRows())
         if (p <= Mission::kPilotUpper) doc.PilotPoints(doc.CurrentGroup, p) = points;
     MarkPilotPoints(ed);
 }
@@ -65,7 +65,7 @@ void MarkPilotPoints(Editor& ed) {
     auto& frm = ed.FrmMission;
     ListBox& list = frm.lstPilotName;
     const bool points = frm.chkPoints.Value() == kChecked;
-    for (int p : SelectedRows(list)) {
+    for (int p : list.SelectedRows()) {
         if (p > Mission::kPilotUpper) continue;
         list.SetList(p, PointsName(list.List(p), points));
         ed.doc.PilotName(ed.doc.CurrentGroup, p) = list.List(p);

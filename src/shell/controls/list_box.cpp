@@ -71,6 +71,13 @@ int ListBox::SelCount() const {
         std::count_if(rows_.begin(), rows_.end(), [](const Row& r) { return r.selected; }));
 }
 
+std::vector<int> ListBox::SelectedRows() const {
+    std::vector<int> rows;
+    for (int i = 0; i < ListCount(); ++i)
+        if (Selected(i)) rows.push_back(i);
+    return rows;
+}
+
 void ListBox::SetSelection(const std::vector<int>& rows, int focusRow) {
     if (focusRow < -1 || focusRow >= ListCount()) Raise(kErrInvalidProperty);
     for (int row : rows)

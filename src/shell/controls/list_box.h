@@ -27,6 +27,8 @@ class ListBox : public ListControl {
     bool Selected(int index) const;
     void SetSelected(int index, bool selected);
     int SelCount() const;
+    // The selected rows, in order.
+    std::vector<int> SelectedRows() const;
     // The user's selection in one step (a click, shift-click or drag over rows): exactly these
     // rows selected and the focus on focusRow. Fires Click once when anything changed.
     void SetSelection(const std::vector<int>& rows, int focusRow);
