@@ -25,9 +25,14 @@ FormView::FormView(Form& form, QWidget* parent, Mode mode)
                      control->Name().c_str());
             continue;
         }
-        if (where.IsScrolled()) parentWidget = ScrolledHolder(*control, parentWidget, origin);
+        QScrollArea* view = nullptr;
+        if (where.IsScrolled()) {
+            view = ScrolledView(*control, parentWidget, origin);
+            parentWidget = view->widget();
+        }
         QWidget* widget = CreateControlWidget(*control, parentWidget, origin);
         if (!widget) continue;
+        if (view) ShowThroughScrolledView(widget, view, view->size());
         if (holders_.count(parentWidget)) {
             widget->installEventFilter(this);
             parentWidget->resize(widget->geometry().bottomRight().x() + 1,
@@ -67,7 +72,7 @@ QWidget* FormView::WidgetOf(const std::string& name, int index) const {
     return control ? WidgetOf(*control) : nullptr;
 }
 
-QWidget* FormView::ScrolledHolder(const Control& control, QWidget* parent, QPointF& origin) {
+QScrollArea* FormView::ScrolledView(const Control& control, QWidget* parent, QPointF& origin) {
     const Place& view = control.Home();
     auto* area = new QScrollArea(parent);
     area->setObjectName(QString::fromStdString(control.Name()) + "View");
@@ -82,7 +87,7 @@ QWidget* FormView::ScrolledHolder(const Control& control, QWidget* parent, QPoin
     area->setWidgetResizable(false);
     origin = QPointF(view.left, view.top);
     holders_.insert(holder);
-    return holder;
+    return area;
 }
 
 bool FormView::eventFilter(QObject* watched, QEvent* event) {

@@ -2,6 +2,7 @@
 // The widgets of one form: every control of its register in the container the model names, at
 // the place the model gives, each bound to its model; and the form's own caption, place and
 // visibility.
+#include <QScrollArea>
 #include <QWidget>
 #include <map>
 #include <set>
@@ -39,9 +40,8 @@ class FormView : public QWidget {
     // The widget that holds controls of that container, and the point of the container's
     // coordinates that is the widget's top left.
     QWidget* HolderOf(const Container& where, QPointF& origin);
-    // A scrolled view at the control's home place, and the widget inside it that holds the
-    // control.
-    QWidget* ScrolledHolder(const Control& control, QWidget* parent, QPointF& origin);
+    // A scrolled view at the control's home place; its widget holds the control.
+    QScrollArea* ScrolledView(const Control& control, QWidget* parent, QPointF& origin);
     // Controls shown on several pages go to the page that is showing.
     void PlaceShared();
     void SyncForm();

@@ -77,6 +77,11 @@ Box InnerBoxOf(const Form& form, const Container& where) {
     const Control* holder = where.Holder();
     if (holder == &form) return {0, 0, form.Width(), form.Height()};
     const Place& home = holder->Home();
+    // A surface seen through a scrolled view may grow over the rest of its own container.
+    if (holder->Where().IsScrolled()) {
+        const Box outer = InnerBoxOf(form, holder->Where());
+        return {0, 0, outer.right - home.left, outer.bottom - home.top};
+    }
     const auto* strip = dynamic_cast<const TabControl*>(holder);
     const float top = where.HasPages() && strip ? strip->TabHeight() : 0;
     return {0, top, home.width, home.height};

@@ -306,54 +306,65 @@ FrmMission::FrmMission()
     Add(NAMED(cmbGUMap), ground, {5292, 5040, 3660, kComboHeight}).SetStyle(kComboDropDownList);
     AddMapRows(cmbGUMap);
 
-    // ---- Ground units: the layout editor, over the right-hand side while it is open -------
-    Add(NAMED(fraGUPos), ground.Overlay(), {5292, 384, 3900, 4980}).SetVisible(false);
+    // ---- Ground units: the layout editor takes the map over while it is open: its controls
+    // lie on the map, clear of the picture's centre and its legend ----------------------------
+    const Container map = In(mapGroundUnits);
+    Add(NAMED(fraGUPos), map.Overlay(), {60, 60, 3780, 2520}).SetVisible(false);
     const Container editor = In(fraGUPos);
-    // A column of spinners, each with its caption on the left.
-    const auto spinAt = [](int row) { return Place{1500, 300 + row * 380.0f, 480, kTextHeight}; };
-    const auto spinCaptionAt = [](int row) {
-        return Place{120, 330 + row * 380.0f, 1300, kLabelHeight};
+    // Two columns of spinners, each with its caption on its left.
+    const auto spinAt = [](int k) {
+        return Place{(k % 2 == 0 ? 120 : 1980) + 900.0f, 280 + (k / 2) * 360.0f, 780, kTextHeight};
     };
-    Add(NAMED(lblXPosCaption), editor, spinCaptionAt(0)).SetCaption("Position X");
+    const auto spinCaptionAt = [&spinAt](int k) {
+        const Place spin = spinAt(k);
+        return Place{spin.left - 900, spin.top + 40, 900, kLabelHeight};
+    };
+    Add(NAMED(lblXPosCaption), editor, spinCaptionAt(0)).SetCaption("X Axis");
     Add(NAMED(btnXPos), editor, spinAt(0));
     SetRange(btnXPos, -272, 272, 0);
-    Add(NAMED(lblYPosCaption), editor, spinCaptionAt(1)).SetCaption("Position Y");
-    Add(NAMED(btnYPos), editor, spinAt(1));
+    Add(NAMED(lblYPosCaption), editor, spinCaptionAt(2)).SetCaption("Y Axis");
+    Add(NAMED(btnYPos), editor, spinAt(2));
     SetRange(btnYPos, -160, 160, 0);
-    Add(NAMED(btnRotate2), editor, spinAt(2));
+    Add(NAMED(btnRotate2), editor, spinAt(4));
     SetRange(btnRotate2, -90, 90, 0);
-    Add(NAMED(lblRotate2), editor, spinCaptionAt(2)).SetCaption("Rotate 0");
-    Add(NAMED(btnSpread), editor, spinAt(3));
+    Add(NAMED(lblRotate2), editor, spinCaptionAt(4)).SetCaption("Rotate 0");
+    Add(NAMED(btnSpread), editor, spinAt(1));
     SetRange(btnSpread, -7, 100, 0);
-    Add(NAMED(lblSpread), editor, spinCaptionAt(3)).SetCaption("Spread");
-    Add(NAMED(lblZoomCaption), editor, spinCaptionAt(4)).SetCaption("Zoom");
-    Add(NAMED(btnZoom), editor, spinAt(4));
+    Add(NAMED(lblSpread), editor, spinCaptionAt(1)).SetCaption("Spread");
+    Add(NAMED(lblZoomCaption), editor, spinCaptionAt(3)).SetCaption("Zoom");
+    Add(NAMED(btnZoom), editor, spinAt(3));
     SetRange(btnZoom, 10, 80, 10);
     Add(NAMED(lblCursorCaption), editor, spinCaptionAt(5)).SetCaption("Cursor");
     Add(NAMED(btnCursor), editor, spinAt(5));
     SetRange(btnCursor, 240, 2600, 240);
-    Add(NAMED(btnRotate90), editor, {2160, 280, 1560, kButtonHeight}).SetCaption("Rotate 90");
-    Add(NAMED(btnGUReset), editor, {2160, 700, 1560, kButtonHeight}).SetCaption("Reset All");
-    Add(NAMED(btnSave), editor, {2160, 1120, 1560, kButtonHeight}).SetCaption("Save Layout");
-    Add(NAMED(btnGUClose), editor, {2160, 1540, 1560, kButtonHeight}).SetCaption("Close");
-    Add(NAMED(chkStationary), editor, {120, 2680, 3600, kCheckHeight})
+    Add(NAMED(btnRotate90), editor, {120, 1380, 1740, kButtonHeight}).SetCaption("Rotate 90");
+    Add(NAMED(btnGUReset), editor, {1980, 1380, 1680, kButtonHeight}).SetCaption("Reset All");
+    Add(NAMED(btnSave), editor, {120, 1760, 1740, kButtonHeight}).SetCaption("Save Layout");
+    Add(NAMED(btnGUClose), editor, {1980, 1760, 1680, kButtonHeight}).SetCaption("Close");
+    Add(NAMED(chkStationary), editor, {120, 2160, 1800, kCheckHeight})
         .SetCaption("Stationary Objects");
-    Add(NAMED(chkDataWindow), editor, {120, 2980, 3600, kCheckHeight}).SetCaption("Offsets Window");
-    // Runways 2 and 3 of a three-runway airfield layout; shown only for those.
-    Add(NAMED(btnX), editor, {2160, 2000, 480, kTextHeight});
+    Add(NAMED(chkDataWindow), editor, {1980, 2160, 1680, kCheckHeight})
+        .SetCaption("Offsets Window");
+    // Runways 2 and 3 of a three-runway airfield layout move by these; shown only for those.
+    Add(NAMED(btnX), map, {7500, 4920, 720, kTextHeight});
     SetRange(btnX, 0, 10, 0);
     btnX.SetVisible(false);
-    Add(NAMED(btnY), editor, {2760, 2000, 480, kTextHeight});
+    Add(NAMED(btnY), map, {8300, 4920, 720, kTextHeight});
     SetRange(btnY, 0, 10, 0);
     btnY.SetVisible(false);
-    // The cross hairs and the unit marker over the map; the lines span the map.
-    Add(NAMED(XLine), In(mapGroundUnits)).SetVisible(false);
-    Add(NAMED(YLine), In(mapGroundUnits)).SetVisible(false);
-    // 20 by 20 pixels.
-    Add(NAMED(picAC), In(mapGroundUnits), {0, 0, 300, 300}).SetVisible(false);
-    Add(NAMED(fraStationary), editor, {120, 3300, 3660, 1560}).SetCaption("Stationary Types");
+    // The cross hairs span the map.
+    Add(NAMED(XLine), map).SetVisible(false);
+    Add(NAMED(YLine), map).SetVisible(false);
+    // The editor's spinners show the value they hold.
+    for (UpDown* spin :
+         {&btnXPos, &btnYPos, &btnRotate2, &btnSpread, &btnZoom, &btnCursor, &btnX, &btnY})
+        spin->SetShowValue(true);
+    // The unit marker, 20 by 20 pixels, goes wherever the unit is.
+    Add(NAMED(picAC), map.Overlay(), {0, 0, 300, 300}).SetVisible(false);
+    // The stationary types float over the map, wherever the designer drops them.
+    Add(NAMED(fraStationary), map.Overlay(), {60, 2900, 3000, 2400}).SetCaption("Stationary Types");
     fraStationary.SetVisible(false);
-    Add(NAMED(lstStationary), In(fraStationary), {120, 240, 3420, 1200});
+    Add(NAMED(lstStationary), In(fraStationary), {120, 240, 2760, 2040});
 }
 
 }  // namespace tarvex
