@@ -21,10 +21,6 @@ void ShowCursorPosition(Editor& ed, float x, float y, std::string_view minutesFo
                kStatusNormal);
 }
 
-void mapWayPoints_MouseMove(Editor& ed, int, int, float x, float y) {
-    ShowCursorPosition(ed, x, y, "##00.00");
-}
-
 void mapGroundUnits_MouseMove(Editor& ed, int, int, float x, float y) {
     if (ed.FrmMission.mapGroundUnits.Tag() == "True") return;
     ShowCursorPosition(ed, x, y, "##00.0000");

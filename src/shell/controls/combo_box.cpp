@@ -71,6 +71,7 @@ void ComboBox::UserCancelDrop() {
     const int before = rowBeforeDrop_;
     rowBeforeDrop_ = kNotDropped;
     MoveQuietly(before < ListCount() ? before : -1);
+    if (DropCancel) DropCancel();
 }
 
 void ComboBox::ListEvents(std::vector<NamedEvent>& out) const {
@@ -78,6 +79,7 @@ void ComboBox::ListEvents(std::vector<NamedEvent>& out) const {
     out.push_back({"Change", &Change});
     out.push_back({"Highlight", &Highlight});
     out.push_back({"UserPick", &UserPick});
+    out.push_back({"DropCancel", &DropCancel});
 }
 
 }  // namespace tarvex
