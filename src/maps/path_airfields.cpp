@@ -73,7 +73,7 @@ void cmbStartAtRwy_Click(Editor& ed) {
         return;
     }
     const int g = doc.CurrentGroup;
-    if (!IsGroupIndex(g)) return;
+    if (!IsGroupIndex(g) || ed.waypoints.ShowingPathAirfields) return;
     doc.GrpTakeoffRwy(g) = static_cast<std::uint8_t>(row);
     for (int p = 0; p <= doc.HighestPath && p < Mission::kMaxPaths; ++p) {
         if (!FollowsGroup(doc, p, g)) continue;
@@ -98,7 +98,7 @@ void cmbEndAtRwy_Click(Editor& ed) {
         return;
     }
     const int g = doc.CurrentGroup;
-    if (!IsGroupIndex(g)) return;
+    if (!IsGroupIndex(g) || ed.waypoints.ShowingPathAirfields) return;
     doc.GrpLandingRwy(g) = static_cast<std::uint8_t>(row);
     for (int p = 0; p <= doc.HighestPath && p < Mission::kMaxPaths; ++p) {
         if (!FollowsGroup(doc, p, g)) continue;

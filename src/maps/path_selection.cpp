@@ -65,10 +65,15 @@ void optColor_Click(Editor& ed, int path) {
         frm.lstPoints.SetListIndex(frm.lstPoints.ListCount() - 1);
         doc.PathCurrentPoint(path) = static_cast<std::int16_t>(frm.lstPoints.ListCount());
         SetWaypointControlsEnabled(ed, true);
+        // The combos show the path's own airfields. On the Formations tab that is a view
+        // only: a path shown (by the group view, the path panel or the tab itself) doesn't
+        // give its airfields to the selected group, which may not even fly it.
+        ed.waypoints.ShowingPathAirfields = true;
         const int start = doc.PathAirfieldStart(path);
         if (start != Mission::kNoAirfield && start >= 0) SelectRow(frm.cmbStartAtRwy, start);
         const int end = doc.PathAirfieldEnd(path);
         if (end != Mission::kNoAirfield && end >= 0) SelectRow(frm.cmbEndAtRwy, end);
+        ed.waypoints.ShowingPathAirfields = false;
     }
     DrawPaths(ed, frm.mapWayPoints);
 }

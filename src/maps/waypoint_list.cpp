@@ -128,6 +128,13 @@ void lstPoints_MouseUp(Editor& ed, int, int, float, float) {
     SwapDraggedRow(ed);
     wp.ListDragging = false;
     RenumberPointRows(ed);
+    // The coordinates shown are those of the row the drag left selected, as the list shows
+    // it now, not as it stood when the pointer reached it.
+    ListBox& list = ed.FrmMission.lstPoints;
+    if (IsRow(list, list.ListIndex())) {
+        wp.PointTextTyped = false;
+        ed.FrmMission.txtPoint.SetText(PointRowCoordinates(list.List(list.ListIndex())));
+    }
 }
 
 void SwapDraggedRow(Editor& ed) {

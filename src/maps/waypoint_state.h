@@ -37,6 +37,10 @@ struct WaypointState {
     SlotPosition PreviewSlot;
     SlotPosition PreviewEndSlot;
 
+    // The airfield combos are showing the rows of the path just selected: on the Formations
+    // tab their handlers leave the selected group's runways alone meanwhile.
+    bool ShowingPathAirfields = false;
+
     // ---- The paths of a group (fraWPSelect) -----------------------------------------------
     // At least one path is on offer in the panel.
     bool PathsOffered = false;

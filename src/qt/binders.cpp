@@ -387,6 +387,11 @@ class FrameBinding : public ControlBinding {
             box_->setTitle(PlainCaption(model_.Caption()));
         ControlBinding::Sync(aspect);
     }
+    // A frame covers what lies under it, as a panel opened over other controls must.
+    void SyncAppearance() override {
+        ControlBinding::SyncAppearance();
+        box_->setAutoFillBackground(true);
+    }
 
   private:
     Frame& model_;

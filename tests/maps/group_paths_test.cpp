@@ -110,8 +110,13 @@ TEST_F(GroupPathsTest, TwoPathsAt60And40AndTheGroupViewStepsThroughThem) {
     // Up wraps after the last path; down stops at the first.
     EXPECT_EQ(shown, (std::vector<std::string>{"5000", "5001", "5000", "5000", "5000"}));
     EXPECT_TRUE(frm.optColor(0).Value());
+    // Looking at another group's path leaves the selected group's runways alone.
+    const int takeoff = doc.GrpTakeoffRwy(0);
+    doc.PathAirfieldStart(2) = static_cast<std::int16_t>(takeoff + 4);
     frm.cmbGroups.SetListIndex(1);
     EXPECT_EQ(frm.lblGrpWP.Caption(), "5002");
+    EXPECT_EQ(frm.cmbStartAtRwy.ListIndex(), takeoff + 4);
+    EXPECT_EQ(doc.GrpTakeoffRwy(0), takeoff);
     EXPECT_FALSE(frm.updwnGroupView.Visible());
 }
 

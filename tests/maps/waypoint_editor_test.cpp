@@ -151,6 +151,7 @@ TEST_F(WaypointTest, DraggingARowMovesItsPositionAndLeavesTheAltitudes) {
         EXPECT_EQ(Position(r + 1), after[r]);
         EXPECT_EQ(doc.WPAlt(0, r + 1), 100 * (r + 1));
     }
+    EXPECT_EQ(frm.txtPoint.Text(), after[2]);
 }
 
 TEST_F(WaypointTest, ARangeSelectedWithShiftTakesAltitudeAndFlagsAtOnce) {
