@@ -21,9 +21,4 @@ void ShowCursorPosition(Editor& ed, float x, float y, std::string_view minutesFo
                kStatusNormal);
 }
 
-void mapGroundUnits_MouseMove(Editor& ed, int, int, float x, float y) {
-    if (ed.FrmMission.mapGroundUnits.Tag() == "True") return;
-    ShowCursorPosition(ed, x, y, "##00.0000");
-}
-
 }  // namespace tarvex

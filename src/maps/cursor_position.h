@@ -12,9 +12,4 @@ class Editor;
 // and the length of that path as the last DrawPaths summed it.
 void ShowCursorPosition(Editor& ed, float x, float y, std::string_view minutesFormat);
 
-// The pointer over the Ground units map. The layout editor reads the pointer there as offsets
-// ("True" in the map's tag), so the read-out is for placing only, with minutes to the
-// precision of a layout's origin. (The Waypoints map has its handler with the waypoint editor.)
-void mapGroundUnits_MouseMove(Editor& ed, int button, int shift, float x, float y);
-
 }  // namespace tarvex

@@ -1,6 +1,5 @@
 #include "maps/wiring.h"
 
-#include "maps/cursor_position.h"
 #include "maps/flyby_points.h"
 #include "maps/group_path_preview.h"
 #include "maps/group_paths.h"
@@ -27,7 +26,6 @@ void WireMaps(Editor& ed) {
     Wire(ed, frm.mapWayPoints.MouseDown, mapWayPoints_MouseDown);
     Wire(ed, frm.mapWayPoints.MouseMove, mapWayPoints_MouseMove);
     Wire(ed, frm.mapWayPoints.MouseUp, mapWayPoints_MouseUp);
-    Wire(ed, frm.mapGroundUnits.MouseMove, mapGroundUnits_MouseMove);
     WireEach(ed, frm.chkOverlay, &CheckBox::Click, chkOverlay_Click);
     WireEach(ed, frm.chkOverlay, &CheckBox::MouseDown, chkOverlay_MouseDown);
     Wire(ed, frm.cmbSelectMap.Click, cmbSelectMap_Click);
