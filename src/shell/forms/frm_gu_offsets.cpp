@@ -17,6 +17,8 @@ frmGUOffsets::frmGUOffsets() : Form("frmGUOffsets") {
         {"Dmg", "DamageID"},
     };
     AddColumns(dbgGUOffsets, columns);
+    dbgGUOffsets.Columns(4).SetNumberFormat("0.0");
+    dbgGUOffsets.Columns(5).SetNumberFormat("0.0");
 
     Add(Picture1, "Picture1");
     Add(btnOffsetEdit, "btnOffsetEdit");
