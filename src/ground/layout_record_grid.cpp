@@ -204,7 +204,8 @@ void grdDataGrid_KeyDown(Editor& ed, int& keyCode, int) {
 }
 
 void grdDataGrid_MouseDown(Editor& ed, int, int, float, float y) {
-    ed.ground.RecordGridRow = static_cast<std::int16_t>(ed.frmGrndNames.grdDataGrid.RowContaining(y));
+    ed.ground.RecordGridRow =
+        static_cast<std::int16_t>(ed.frmGrndNames.grdDataGrid.RowContaining(y));
 }
 
 void grdDataGrid_MouseMove(Editor& ed, int, int, float x, float) {

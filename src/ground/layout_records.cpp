@@ -308,7 +308,8 @@ void cmdUpdate_Click(Editor& ed) {
     auto& f = ed.frmGrndNames;
     std::int32_t storedId = 0;
     try {
-        const bool stored = Adding(f) ? StoreNewLayout(ed, storedId) : StoreLayoutName(ed, storedId);
+        const bool stored =
+            Adding(f) ? StoreNewLayout(ed, storedId) : StoreLayoutName(ed, storedId);
         if (!stored) return;
         if (f.grdDataGrid.DataChanged()) {
             f.datSecondaryRS.UpdateRecord();

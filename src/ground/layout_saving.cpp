@@ -56,9 +56,9 @@ std::int32_t WriteCopy(Editor& ed, const std::string& name, int row) {
             SharedLookup next(ed.db, "qryNextGuID");
             newId = next.First().Fields("NextID").Long();
         }
-        Recordset source =
-            db.OpenRecordset("SELECT UnitTotal,GUType FROM GrndNames Where ID=" +
-                             IntText(g.EditedLayoutID), kSnapshot);
+        Recordset source = db.OpenRecordset(
+            "SELECT UnitTotal,GUType FROM GrndNames Where ID=" + IntText(g.EditedLayoutID),
+            kSnapshot);
         source.MoveFirst();
         Recordset names = db.OpenRecordset("GrndNames");
         names.AddNew();
@@ -114,8 +114,7 @@ void btnSave_Click(Editor& ed) {
             newId = WriteCopy(ed, name, row);
         } catch (const AppError& error) {
             MessageBoxRequest box;
-            box.text =
-                "Error adding new Ground Layout record.\nError: " + IntText(error.Number());
+            box.text = "Error adding new Ground Layout record.\nError: " + IntText(error.Number());
             box.title = "Saving Ground Layout Error";
             box.icon = MsgIcon::Critical;
             ed.svc.dialogs.MsgBox(box);

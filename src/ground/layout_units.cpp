@@ -57,8 +57,8 @@ void AddStationaryUnit(Editor& ed, float x, float y, std::int32_t layoutId, std:
             units.Fields("YOffset") = static_cast<double>(yOffset);
             units.Update();
             units.Close();
-            Recordset layout =
-                db.OpenRecordset("SELECT ID,UnitTotal FROM GrndNames WHERE ID =" + IntText(layoutId));
+            Recordset layout = db.OpenRecordset("SELECT ID,UnitTotal FROM GrndNames WHERE ID =" +
+                                                IntText(layoutId));
             layout.MoveFirst();
             layout.Edit();
             layout.Fields("UnitTotal") =

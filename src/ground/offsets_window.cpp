@@ -89,25 +89,23 @@ void SetOffsetsSource(Editor& ed) {
     auto& w = ed.frmGUOffsets;
     const char* query = ed.options.Measurement ? "qryGUOffsetsMetric" : "qryGUOffsetsImp";
     w.dbgGUOffsets.ClearSelBookmarks();
-    w.dataGUOffsets.SetRecordSource(
-        std::string("select [ID],[FullName],[XOffset],[YOffset],") +
-        "[Expr1],[Expr2],[IsDefault] from [" + query +
-        "] where [ID]=" + IntText(ed.ground.EditedLayoutID) + " ORDER BY Fullname");
+    w.dataGUOffsets.SetRecordSource(std::string("select [ID],[FullName],[XOffset],[YOffset],") +
+                                    "[Expr1],[Expr2],[IsDefault] from [" + query + "] where [ID]=" +
+                                    IntText(ed.ground.EditedLayoutID) + " ORDER BY Fullname");
     RefreshRecordSource(w.dataGUOffsets);
 }
 
 void SetOffsetCaptions(Editor& ed, double heading, int columnA, int columnB) {
     auto& w = ed.frmGUOffsets;
     w.LoadForm();
-    w.dbgGUOffsets.Columns(columnA).SetCaption(Heading3(heading) + " / " +
-                                               Heading3(heading - 180));
+    w.dbgGUOffsets.Columns(columnA).SetCaption(Heading3(heading) + " / " + Heading3(heading - 180));
     w.dbgGUOffsets.Columns(columnB).SetCaption(Heading3(heading + 90) + " / " +
                                                Heading3(heading - 90));
     w.lblUpGU.SetCaption("Move Unit " + Format(NormalizeHeading(static_cast<float>(heading)), "0") +
                          " Degrees.");
-    w.lblDownGU.SetCaption(
-        "Move Unit " + Format(NormalizeHeading(static_cast<float>(heading - 180)), "0") +
-        " Degrees.");
+    w.lblDownGU.SetCaption("Move Unit " +
+                           Format(NormalizeHeading(static_cast<float>(heading - 180)), "0") +
+                           " Degrees.");
 }
 
 void SetOffsetsTips(Editor& ed) {
@@ -129,7 +127,8 @@ void SetOffsetsTips(Editor& ed) {
 void FitOffsetsWindow(Editor& ed) {
     auto& w = ed.frmGUOffsets;
     DataGrid& grid = w.dbgGUOffsets;
-    const int count = w.dataGUOffsets.HasRecordset() ? w.dataGUOffsets.Recordset().RecordCount() : 0;
+    const int count =
+        w.dataGUOffsets.HasRecordset() ? w.dataGUOffsets.Recordset().RecordCount() : 0;
     float h = static_cast<float>(
         RoundHalfEven((grid.RowHeight() + 1) * count + w.Picture1.ScaleHeight() + 912));
     if (h >= kHighestHeight + 1) h = kHighestHeight;
