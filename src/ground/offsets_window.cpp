@@ -259,7 +259,11 @@ void dbgGUOffsets_AfterColUpdate(Editor& ed, int col) {
         return;
     }
     try {
-        grid.Columns(col - 2).SetValue(static_cast<double>(CSng(v)));
+        // Only the offset itself is stored: the view works out the metres or feet again.
+        Recordset& rs = w.dataGUOffsets.Recordset();
+        rs.CancelUpdate();
+        rs.Edit();
+        rs.Fields(col - 2) = static_cast<double>(CSng(v));
         w.dataGUOffsets.UpdateRecord();
     } catch (const AppError& error) {
         grid.SetCurrentCellModified(false);
