@@ -145,6 +145,8 @@ void Form_Load(Editor& ed) {
     auto& w = ed.frmGUOffsets;
     GroundState& g = ed.ground;
     w.dataGUOffsets.SetDatabaseName(ed.db.DBPath);
+    // Beside the editor and above every other window, where a click on the map leaves it.
+    w.SetTopMost(true);
     SetLeftTopFromSettings(ed);
     g.OffsetsOpen = true;
     SetOffsetsSource(ed);
