@@ -1,0 +1,14 @@
+#pragma once
+// Reading a whole file at once, for the passes over many files in a row.
+#include <string>
+#include <string_view>
+
+namespace tarvex {
+
+// The bytes of the file at `path` (UTF-8). `storage` holds them and is kept from call to
+// call: it only grows, so a run over many files allocates nothing after the largest one. A
+// missing file raises error 53 "File not found", a refused one 70 "Permission denied", any
+// other failure (a folder, a read error) 75 "Path/File access error".
+std::string_view ReadFileBytes(const std::string& path, std::string& storage);
+
+}  // namespace tarvex
