@@ -11,4 +11,21 @@ namespace tarvex {
 // other failure (a folder, a read error) 75 "Path/File access error".
 std::string_view ReadFileBytes(const std::string& path, std::string& storage);
 
+// The files of one folder read one after the other by name: the folder is looked up once,
+// not again for every file.
+class FolderReader {
+  public:
+    explicit FolderReader(std::string folder);
+    ~FolderReader();
+    FolderReader(const FolderReader&) = delete;
+    FolderReader& operator=(const FolderReader&) = delete;
+
+    // ReadFileBytes of the folder's file of that name.
+    std::string_view Read(const std::string& name, std::string& storage);
+
+  private:
+    std::string folder_;
+    int handle_ = -1;
+};
+
 }  // namespace tarvex

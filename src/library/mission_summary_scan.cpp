@@ -146,13 +146,14 @@ int ScanMissionFolder(Editor& ed, const std::string& folder, std::string& fileNa
         return it->second;
     };
 
+    FolderReader files(folder);
     std::string bytes;
     std::vector<FieldValue> row;
     int written = 0;
     for (const std::string& name : MissionFileNames(folder)) {
         fileName = name;
         const std::string path = JoinPath(folder, name);
-        const std::string_view text = ReadFileBytes(path, bytes);
+        const std::string_view text = files.Read(name, bytes);
         if (eachFile) eachFile();
         const MissionSummary s = ReadMissionSummary(text, mapNumber);
         row = {TextOrNull(s.Title),
