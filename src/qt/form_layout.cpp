@@ -204,32 +204,37 @@ FormLayout MissionFormLayout(const FrmMission&) {
         at("optGndHasPoints", u, 5292 + k * 1220.0f, 4760, 1200, kCheck, k);
     at("cmbGUMap", u, 5292, 5040, 3660, kCombo);
 
-    // The layout editor lies over the right-hand side while it is open.
-    at("fraGUPos", u, 5292, 384, 3900, 4980);
+    // The layout editor takes the map over while it is open: its controls lie on the map,
+    // clear of the picture's centre and its legend.
+    const char* m = "mapGroundUnits";
+    at("fraGUPos", m, 60, 60, 3780, 2520);
     const char* e = "fraGUPos";
-    const char* spinTexts[] = {"Position X", "Position Y", nullptr, nullptr, "Zoom", "Cursor"};
-    const char* spins[] = {"btnXPos", "btnYPos", "btnRotate2", "btnSpread", "btnZoom", "btnCursor"};
+    const char* spinTexts[] = {"X Axis", nullptr, "Y Axis", "Zoom", nullptr, "Cursor"};
+    const char* spins[] = {"btnXPos", "btnSpread", "btnYPos", "btnZoom", "btnRotate2", "btnCursor"};
     for (int k = 0; k < 6; ++k) {
-        const float y = 300 + k * 380.0f;
-        if (spinTexts[k]) text(e, spinTexts[k], 120, y + 30, 1300);
-        at(spins[k], e, 1500, y, 480, kText);
+        const float x = k % 2 == 0 ? 120 : 1980;
+        const float y = 280 + (k / 2) * 360.0f;
+        if (spinTexts[k]) text(e, spinTexts[k], x, y + 40, 900);
+        at(spins[k], e, x + 900, y, 780, kText);
     }
-    at("lblRotate2", e, 120, 300 + 2 * 380 + 30, 1300, kLabel);
-    at("lblSpread", e, 120, 300 + 3 * 380 + 30, 1300, kLabel);
-    at("btnRotate90", e, 2160, 280, 1560, kButton);
-    at("btnGUReset", e, 2160, 700, 1560, kButton);
-    at("btnSave", e, 2160, 1120, 1560, kButton);
-    at("btnGUClose", e, 2160, 1540, 1560, kButton);
-    at("btnX", e, 2160, 2000, 480, kText);
-    at("btnY", e, 2760, 2000, 480, kText);
-    at("chkStationary", e, 120, 2680, 3600, kCheck);
-    at("chkDataWindow", e, 120, 2980, 3600, kCheck);
-    at("fraStationary", e, 120, 3300, 3660, 1560);
-    at("lstStationary", "fraStationary", 120, 240, 3420, 1200);
+    at("lblSpread", e, 1980, 320, 900, kLabel);
+    at("lblRotate2", e, 120, 1040, 900, kLabel);
+    at("btnRotate90", e, 120, 1380, 1740, kButton);
+    at("btnGUReset", e, 1980, 1380, 1680, kButton);
+    at("btnSave", e, 120, 1760, 1740, kButton);
+    at("btnGUClose", e, 1980, 1760, 1680, kButton);
+    at("chkStationary", e, 120, 2160, 1800, kCheck);
+    at("chkDataWindow", e, 1980, 2160, 1680, kCheck);
+    // Runways 2 and 3 of a three-runway airfield move by these.
+    at("btnX", m, 7500, 4920, 720, kText);
+    at("btnY", m, 8300, 4920, 720, kText);
+    // The stationary types float over the map, wherever the designer drops them.
+    at("fraStationary", m, 60, 2900, 3000, 2400);
+    at("lstStationary", "fraStationary", 120, 240, 2760, 2040);
     // Marks over the map of the layout editor.
-    at("XLine", "mapGroundUnits", 0, 0, 0, 0);
-    at("YLine", "mapGroundUnits", 0, 0, 0, 0);
-    at("picAC", "mapGroundUnits", 0, 0, 300, 300);
+    at("XLine", m, 0, 0, 0, 0);
+    at("YLine", m, 0, 0, 0, 0);
+    at("picAC", m, 0, 0, 300, 300);
     return l;
 }
 

@@ -48,6 +48,10 @@ FormView::FormView(Form& form, const FormLayout& layout, QWidget* parent, Mode m
                 parentWidget = ScrolledHolder(*place, parentWidget, origin);
             QWidget* widget = CreateControlWidget(*control, parentWidget, origin);
             if (!widget) continue;
+            if (place && place->scrolled)
+                if (auto* view =
+                        qobject_cast<QScrollArea*>(parentWidget->parentWidget()->parentWidget()))
+                    ShowThroughScrolledView(widget, view, view->size());
             if (holders_.count(parentWidget)) {
                 widget->installEventFilter(this);
                 parentWidget->resize(widget->geometry().bottomRight().x() + 1,

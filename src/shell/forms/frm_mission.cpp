@@ -271,6 +271,10 @@ FrmMission::FrmMission()
     btnY.SetVisible(false);
     Add(XLine, "XLine").SetVisible(false);
     Add(YLine, "YLine").SetVisible(false);
+    // The editor's spinners show the value they hold.
+    for (UpDown* spin :
+         {&btnXPos, &btnYPos, &btnRotate2, &btnSpread, &btnZoom, &btnCursor, &btnX, &btnY})
+        spin->SetShowValue(true);
     // 20 by 20 pixels.
     Add(picAC, "picAC");
     picAC.Move(0, 0, 300, 300);
