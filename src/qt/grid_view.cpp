@@ -1,6 +1,8 @@
 #include "qt/grid_view.h"
 
+#include <QApplication>
 #include <QHeaderView>
+#include <QScrollBar>
 
 #include "qt/binders.h"
 
@@ -52,6 +54,18 @@ GridView::GridView(DataGrid& model, QWidget* parent) : QTableWidget(parent), mod
     });
     connect(horizontalHeader(), &QHeaderView::sectionClicked, this,
             [this](int col) { Guarded([&] { model_.UserHeadClick(col); }); });
+    // The model places what lies over the grid (a browse button, a pick list) by its top row.
+    // The grid also scrolls while it shows the model's current row.
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, this,
+            [this](int top) { Guarded([&] { model_.SetTopRow(top); }); });
+    connect(this, &QTableWidget::cellClicked, this,
+            [this](int, int) { Guarded([&] { model_.RaiseClick(); }); });
+    // The row headers are the record selectors: a press selects the row, with Ctrl one more.
+    connect(verticalHeader(), &QHeaderView::sectionClicked, this, [this](int row) {
+        const bool add = QApplication::keyboardModifiers() & Qt::ControlModifier;
+        Guarded([&] { model_.UserSelectRow(row, add); });
+        SyncCurrent();
+    });
 }
 
 ControlBinding* GridView::Bind(QPointF origin) {
