@@ -302,7 +302,8 @@ void ControlBinding::SyncAppearance() {
     for (QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(role, ownFore ? ToQColor(model_.ForeColor()) : defaults.color(role));
     widget_->setPalette(palette);
-    widget_->setAutoFillBackground(ownBack);
+    // A control laid over others hides what lies under it.
+    widget_->setAutoFillBackground(ownBack || model_.Where().IsOverlay());
     switch (model_.MousePointer()) {
         case 2:
             widget_->setCursor(Qt::CrossCursor);

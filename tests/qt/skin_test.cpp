@@ -22,10 +22,12 @@
 #include <vector>
 
 #include "platform/scripted_platform.h"
+#include "qt/binders.h"
 #include "qt/editor_session.h"
 #include "qt/editor_window.h"
 #include "qt/form_view.h"
 #include "qt/services.h"
+#include "shell/forms/frm_aircraft.h"
 #include "shell/forms/frm_mission.h"
 #include "shell/forms/mdi_mission_ed.h"
 #include "support/reference_folder.h"
@@ -259,6 +261,45 @@ TEST_F(SkinTest, SharedFramesFollowTheTabOnShow) {
             EXPECT_EQ(airfields->parentWidget(), tabs->widget(c.tab));
         }
     }
+}
+
+TEST_F(SkinTest, WidgetsStandWhereTheirModelsSay) {
+    auto& frm = session->ed().FrmMission;
+    auto& aircraft = session->ed().frmAircraft;
+    FormView& mission = session->window().MissionView();
+    FormView* records = session->window().FormWindow("frmAircraft");
+    ASSERT_NE(records, nullptr);
+    QWidget* strip = mission.WidgetOf(frm.SSTab1);
+    ASSERT_NE(strip, nullptr);
+    // Page coordinates count from the strip's top, headers included.
+    const float header = frm.SSTab1.TabHeight();
+    struct Case {
+        FormView* view;
+        Control* control;
+        QWidget* parent;
+        float originY;
+    };
+    const Case cases[] = {
+        {&mission, &frm.txtTitle, TabPage(strip, 0), header},
+        {&mission, &frm.chkSuspend, TabPage(strip, 1), header},
+        {&mission, &frm.lstStationary, mission.WidgetOf(frm.fraStationary), 0},
+        {&mission, &frm.optColor(15), mission.WidgetOf(frm.fraPathColor), 0},
+        {records, &aircraft.cmdClose, records->WidgetOf(aircraft.picButtons), 0},
+        {records, &aircraft.grdDataGrid, records, 0},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.control->Name());
+        QWidget* widget = c.view->WidgetOf(*c.control);
+        ASSERT_NE(widget, nullptr);
+        ASSERT_NE(c.parent, nullptr);
+        EXPECT_EQ(widget->parentWidget(), c.parent);
+        const Control& m = *c.control;
+        EXPECT_EQ(widget->geometry(),
+                  QRect(Px(m.Left()), Px(m.Top() - c.originY), Px(m.Width()), Px(m.Height())));
+    }
+    // A move by the program moves the widget.
+    frm.txtTitle.Move(1500, 600);
+    EXPECT_EQ(mission.WidgetOf(frm.txtTitle)->pos(), QPoint(Px(1500), Px(600 - header)));
 }
 
 // A double click on a layout of the mission opens the editor over the whole map, and its spin
