@@ -111,11 +111,12 @@ void Form_Unload(Editor& ed) {
 }
 
 void Form_Resize(Editor& ed) {
-    // The window keeps its place and size.
+    // The window keeps its place and size; the grid, with the details beside it, takes its
+    // height.
     auto& f = ed.frmtblMissions;
     try {
         f.Move(0, 0, 9300, 6340);
-        f.grdDataGrid.SetWidth(f.Width() - 260);
+        f.grdDataGrid.SetHeight(f.Height() - 260);
     } catch (const AppError&) {
     }
 }

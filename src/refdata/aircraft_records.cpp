@@ -17,8 +17,6 @@ namespace tarvex {
 namespace {
 
 constexpr int kDefaultPointer = 0;
-// The window's caption bar and borders, which its inner height leaves out.
-constexpr float kWindowFrameHeight = 405;
 // The row of each filter combo that stands for no filter.
 constexpr int kAllRow = 3;
 
@@ -120,7 +118,8 @@ void Form_Unload(Editor& ed) {
 void Form_Resize(Editor& ed) {
     auto& f = ed.frmAircraft;
     try {
-        f.grdDataGrid.SetHeight(f.Height() - kWindowFrameHeight - f.picButtons.Height() - 120);
+        // The window's height is its inner height.
+        f.grdDataGrid.SetHeight(f.Height() - f.picButtons.Height() - 120);
     } catch (const AppError&) {
     }
 }
