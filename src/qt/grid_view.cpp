@@ -37,7 +37,13 @@ GridView::GridView(DataGrid& model, QWidget* parent) : QTableWidget(parent), mod
     setSelectionMode(QAbstractItemView::SingleSelection);
     setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
                     QAbstractItemView::AnyKeyPressed);
-    verticalHeader()->setDefaultSectionSize(Px(model.RowHeight()) + 2);
+    // Rows and the head as the model measures them, so that what the model lays over a cell
+    // (a browse button, a pick list) stands on it.
+    const int rowHeight = Px(model.RowHeight()) + 2;
+    verticalHeader()->setMinimumSectionSize(rowHeight);
+    verticalHeader()->setDefaultSectionSize(rowHeight);
+    horizontalHeader()->setFixedHeight(rowHeight);
+    Guarded([&] { model.SetRowHeight(Twips(rowHeight)); });
     connect(this, &QTableWidget::currentCellChanged, this, [this](int row, int col, int, int) {
         if (filling_ || row < 0) return;
         Guarded([&] { model_.UserMoveTo(row, col); });
