@@ -7,6 +7,8 @@
 #include <QComboBox>
 #include <QCursor>
 #include <QDebug>
+#include <QDragEnterEvent>
+#include <QDropEvent>
 #include <QEvent>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -16,6 +18,7 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPlainTextEdit>
@@ -28,6 +31,7 @@
 #include <QStyledItemDelegate>
 #include <QTimer>
 #include <QToolButton>
+#include <QUrl>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <exception>
@@ -129,6 +133,16 @@ int KeyCodeOf(int key) {
         default:
             return 0;
     }
+}
+
+DragData DragDataOf(const QMimeData* mime) {
+    DragData data;
+    if (mime && mime->hasUrls()) {
+        for (const QUrl& url : mime->urls())
+            if (url.isLocalFile()) data.files.push_back(url.toLocalFile().toStdString());
+        data.hasFiles = !data.files.empty();
+    }
+    return data;
 }
 
 void Guarded(const std::function<void()>& call) {
@@ -462,6 +476,8 @@ class ButtonBinding : public ControlBinding {
         connect(button, &QPushButton::clicked, this, [this] {
             if (!Syncing()) Guarded([this] { model_.UserClick(); });
         });
+        // A button that takes dropped files says so in its events.
+        button->setAcceptDrops(model.OLEDragOver.Connected() || model.OLEDragDrop.Connected());
     }
 
   protected:
@@ -469,6 +485,32 @@ class ButtonBinding : public ControlBinding {
         if (aspect == Aspect::Text || aspect == Aspect::Appearance)
             button_->setText(Q(model_.Caption()));
         ControlBinding::Sync(aspect);
+    }
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched != button_) return ControlBinding::eventFilter(watched, event);
+        switch (event->type()) {
+            case QEvent::DragEnter: {
+                auto* drag = static_cast<QDragEnterEvent*>(event);
+                int effect = kDropEffectNone;
+                Guarded([&] { effect = model_.RaiseDragOver(DragDataOf(drag->mimeData())); });
+                if (effect == kDropEffectNone) {
+                    drag->ignore();
+                } else {
+                    drag->setDropAction(effect & kDropEffectCopy ? Qt::CopyAction : Qt::MoveAction);
+                    drag->accept();
+                }
+                return true;
+            }
+            case QEvent::Drop: {
+                auto* drop = static_cast<QDropEvent*>(event);
+                const DragData data = DragDataOf(drop->mimeData());
+                drop->acceptProposedAction();
+                Guarded([&] { model_.RaiseDragDrop(data); });
+                return true;
+            }
+            default:
+                return ControlBinding::eventFilter(watched, event);
+        }
     }
 
   private:
