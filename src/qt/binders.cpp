@@ -161,6 +161,8 @@ ControlBinding::ControlBinding(Control& model, QWidget* widget, QPointF origin)
                           (model.Index() >= 0 ? QString("(%1)").arg(model.Index()) : QString()));
     widget->installEventFilter(this);
     listener_ = model.AddListener([this](Aspect aspect) { OnModel(aspect); });
+    // A handler of the pointer's moves hears them with no button down too (status texts).
+    if (model.MouseMove) widget->setMouseTracking(true);
 }
 
 ControlBinding::~ControlBinding() {
@@ -334,19 +336,22 @@ bool ControlBinding::eventFilter(QObject* watched, QEvent* event) {
         case QEvent::MouseButtonPress: {
             auto* mouse = static_cast<QMouseEvent*>(event);
             const auto [x, y] = at(mouse);
-            Guarded([&] {
-                model_.RaiseMouseDown(ButtonOf(mouse->button()), ShiftOf(mouse->modifiers()), x, y);
-            });
-            return false;
+            const int button = ButtonOf(mouse->button());
+            const int shift = ShiftOf(mouse->modifiers());
+            const bool first = SelectsBeforeMouseEvents();
+            if (first && !deliverFirst()) return true;
+            Guarded([&] { model_.RaiseMouseDown(button, shift, x, y); });
+            return first;
         }
         case QEvent::MouseMove: {
             auto* mouse = static_cast<QMouseEvent*>(event);
             const auto [x, y] = at(mouse);
-            Guarded([&] {
-                model_.RaiseMouseMove(ButtonOf(mouse->buttons()), ShiftOf(mouse->modifiers()), x,
-                                      y);
-            });
-            return false;
+            const int buttons = ButtonOf(mouse->buttons());
+            const int shift = ShiftOf(mouse->modifiers());
+            const bool first = SelectsBeforeMouseEvents();
+            if (first && !deliverFirst()) return true;
+            Guarded([&] { model_.RaiseMouseMove(buttons, shift, x, y); });
+            return first;
         }
         case QEvent::MouseButtonRelease: {
             auto* mouse = static_cast<QMouseEvent*>(event);
@@ -438,6 +443,11 @@ class FrameBinding : public ControlBinding {
         if (aspect == Aspect::Text || aspect == Aspect::Appearance)
             box_->setTitle(PlainCaption(model_.Caption()));
         ControlBinding::Sync(aspect);
+    }
+    // A frame covers what lies under it, as a panel opened over other controls must.
+    void SyncAppearance() override {
+        ControlBinding::SyncAppearance();
+        box_->setAutoFillBackground(true);
     }
 
   private:
@@ -700,6 +710,7 @@ class ListBinding : public ControlBinding {
         ControlBinding::Sync(aspect);
     }
     bool PaintsBackColour() const override { return true; }
+    bool SelectsBeforeMouseEvents() const override { return true; }
 
   private:
     ListBox& model_;

@@ -132,6 +132,8 @@ TEST_F(SkinTest, PointerOnTheMapReachesTheCoreInMapUnits) {
         float x, y;
     };
     std::vector<Press> seen;
+    model.MouseDown.Disconnect();
+    model.MouseUp.Disconnect();
     model.MouseDown.Connect([&](int b, int s, float x, float y) {
         seen.push_back({"down", b, s, x, y});
     });
@@ -162,6 +164,35 @@ TEST_F(SkinTest, PointerOnTheMapReachesTheCoreInMapUnits) {
             EXPECT_FLOAT_EQ(press.y, c.at.y() * 15.0f);
         }
     }
+}
+
+TEST_F(SkinTest, AClickOnTheMapAddsAWaypointAndADragMovesIt) {
+    session->ShowTab(3);
+    QApplication::processEvents();
+    QWidget* map = Widget("mapWayPoints");
+    ASSERT_NE(map, nullptr);
+    Editor& ed = session->ed();
+    const Mission& doc = ed.doc;
+
+    QTest::mouseMove(map, {100, 80});
+    QTest::mouseClick(map, Qt::LeftButton, {}, {100, 80});
+    ASSERT_EQ(ed.FrmMission.lstPoints.ListCount(), 1);
+    EXPECT_EQ(doc.PathPointCount(0), 2);
+    // The map positions come back from the coordinate text, within a unit of the pointer's.
+    EXPECT_NEAR(doc.WPMapX(0, 1), 100 * 15, 2);
+    EXPECT_NEAR(doc.WPMapY(0, 1), 80 * 15, 2);
+    const std::string placed = doc.WPLat(0, 1) + " " + doc.WPLon(0, 1);
+    EXPECT_EQ(ed.FrmMission.lstPoints.List(0), "01. " + placed);
+
+    QTest::mousePress(map, Qt::LeftButton, {}, {101, 81});
+    QTest::mouseMove(map, {130, 100});
+    QTest::mouseMove(map, {160, 120});
+    QTest::mouseRelease(map, Qt::LeftButton, {}, {160, 120});
+    EXPECT_EQ(ed.FrmMission.lstPoints.ListCount(), 1);
+    EXPECT_NEAR(doc.WPMapX(0, 1), 160 * 15, 2);
+    EXPECT_NEAR(doc.WPMapY(0, 1), 120 * 15, 2);
+    EXPECT_NE(doc.WPLat(0, 1) + " " + doc.WPLon(0, 1), placed);
+    EXPECT_EQ(ed.FrmMission.lstPoints.List(0), "01. " + doc.WPLat(0, 1) + " " + doc.WPLon(0, 1));
 }
 
 TEST_F(SkinTest, UserChoicesAndCodeSelectionsAreOneEvent) {
