@@ -90,7 +90,11 @@ void ScenarioRun::Tab(int page, const std::string& caption) {
     strip.RaiseMouseUp(kLeftButton, 0, x, y);
 }
 
-void ScenarioRun::Click(const ControlName& name) {
+void ScenarioRun::Click(const ControlName& name, int times) {
+    Repeat(times, "click", [&] { ClickOnce(name); });
+}
+
+void ScenarioRun::ClickOnce(const ControlName& name) {
     if (dynamic_cast<MenuItem*>(Find(name).component)) {
         Menu(name);
         return;
@@ -99,7 +103,7 @@ void ScenarioRun::Click(const ControlName& name) {
     const char* instead = nullptr;
     if (dynamic_cast<ComboBox*>(&control)) instead = "use pick";
     if (dynamic_cast<ListBox*>(&control)) instead = "use select";
-    if (dynamic_cast<PictureSurface*>(&control)) instead = "use press and release at a point";
+    if (dynamic_cast<PictureSurface*>(&control)) instead = "click it at a point X Y";
     if (dynamic_cast<TabControl*>(&control)) instead = "use tab";
     if (dynamic_cast<DataGrid*>(&control)) instead = "use select or cell";
     if (dynamic_cast<UpDown*>(&control)) instead = "use up or down";
@@ -277,6 +281,15 @@ void ScenarioRun::Pointer(Mouse what, const ControlName& name, const Spot& at,
     if (what == Mouse::Release) control.RaiseMouseUp(button, keys.shift, at.x, at.y);
 }
 
+void ScenarioRun::ClickAt(const ControlName& name, const Spot& at, const Modifiers& keys) {
+    ReachAs<PictureSurface>(name, "a click at a point works on picture surfaces");
+    Modifiers hover = keys;
+    hover.button = 0;
+    Pointer(Mouse::Move, name, at, hover);
+    Pointer(Mouse::Press, name, at, keys);
+    Pointer(Mouse::Release, name, at, keys);
+}
+
 void ScenarioRun::Drag(const ControlName& name, const Spot& from, const Spot& to,
                        const Modifiers& keys) {
     Pointer(Mouse::Press, name, from, keys);
@@ -286,13 +299,13 @@ void ScenarioRun::Drag(const ControlName& name, const Spot& from, const Spot& to
 
 void ScenarioRun::Spin(const ControlName& name, bool up, int times) {
     auto& spin = ReachAs<UpDown>(name, "up and down work on up-downs");
-    for (int i = 0; i < times; ++i) {
+    Repeat(times, up ? "up" : "down", [&] {
         if (up) {
             spin.UserUp();
         } else {
             spin.UserDown();
         }
-    }
+    });
 }
 
 void ScenarioRun::Tick(const ControlName& name, int times) {

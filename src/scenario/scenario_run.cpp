@@ -164,6 +164,24 @@ void ScenarioRun::File(const std::string& path, bool cancel) {
     Queue(AnswerKind::File, cancel ? "cancel" : Quoted(path));
 }
 
+void ScenarioRun::Repeat(int times, const char* what, const std::function<void()>& once) {
+    const auto at = [&](int i) {
+        return std::string(" (") + what + " " + std::to_string(i) + " of " + std::to_string(times) +
+               ")";
+    };
+    for (int i = 1; i <= times; ++i) {
+        try {
+            once();
+        } catch (const ScenarioError& e) {
+            if (times == 1) throw;
+            throw ScenarioError(e.what() + at(i));
+        }
+        const auto& unanswered = editor_.dialogs().unanswered;
+        if (times > 1 && i < times && !unanswered.empty())
+            throw ScenarioError(Describe(unanswered.front()) + at(i));
+    }
+}
+
 void ScenarioRun::BeginAction() {
     ScriptedDialogs& dialogs = editor_.dialogs();
     dialogs.unanswered.clear();

@@ -2,6 +2,7 @@
 // One run of a scenario on a started headless editor: the user's actions through the same
 // gestures the skin uses, answers queued for the boxes, and expectations on what the program
 // shows and holds.
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -41,7 +42,11 @@ class ScenarioRun {
     void MenuWithFile(const ControlName& entry, const std::string& path);
     // A press and release on the header of a page of SSTab1, by number or caption.
     void Tab(int page, const std::string& caption);
-    void Click(const ControlName& name);
+    // A click, `times` over: each a whole click, and the run stops at a box that came with no
+    // answer.
+    void Click(const ControlName& name, int times = 1);
+    // The pointer comes to a point of a surface and the button goes down and up there.
+    void ClickAt(const ControlName& name, const Spot& at, const Modifiers& keys);
     void DoubleClick(const ControlName& name, const std::optional<Spot>& row);
     void Check(const ControlName& name, bool on);
     void Select(const ControlName& name, const Spot& row, const Modifiers& keys);
@@ -97,6 +102,10 @@ class ScenarioRun {
     int RowOf(const ControlName& name, const Spot& row, const ListControl* list, int count) const;
     void Queue(AnswerKind kind, const std::string& what);
     void BeginAction();
+    void ClickOnce(const ControlName& name);
+    // Runs a repeated action: each time whole, up to a box that came with no answer or a
+    // failure, which names the time it came at.
+    void Repeat(int times, const char* what, const std::function<void()>& once);
     void EndAction();
     void Verify(const std::string& what, const std::string& actual, const Expected& expected);
 

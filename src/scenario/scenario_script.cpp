@@ -247,12 +247,18 @@ class Args {
         return spot;
     }
 
-    // `count` places: each a row (one word) or a point X Y (two numbers), told apart by how
-    // many numbers and texts stand before the modifiers.
-    std::vector<Spot> Spots(size_t count) {
+    // How many numbers and texts stand next, before the modifiers.
+    size_t Numbers() const {
         size_t words = 0;
         while (Peek(words) && (Peek(words)->quoted || Number(Peek(words)->text)))
             ++words;
+        return words;
+    }
+
+    // `count` places: each a row (one word) or a point X Y (two numbers), told apart by how
+    // many numbers stand next.
+    std::vector<Spot> Spots(size_t count) {
+        const size_t words = Numbers();
         std::vector<Spot> spots;
         if (words == 2 * count && !Peek()->quoted) {
             for (size_t i = 0; i < count; ++i) {
@@ -427,8 +433,15 @@ const Verb kVerbs[] = {
     {"click", StepKind::Action,
      [](Args& a) -> Act {
          const ControlName name = a.Control();
+         // Two numbers are a point on a surface; one is how many times.
+         if (a.Numbers() == 2) {
+             const Spot at = a.Spots(1)[0];
+             const Modifiers keys = a.Keys();
+             return [name, at, keys](ScenarioRun& r) { r.ClickAt(name, at, keys); };
+         }
+         const int times = a.Count();
          a.End();
-         return [name](ScenarioRun& r) { r.Click(name); };
+         return [name, times](ScenarioRun& r) { r.Click(name, times); };
      }},
     {"dblclick", StepKind::Action,
      [](Args& a) -> Act {

@@ -70,6 +70,15 @@ TEST(ScenarioRunTest, StopsAtTheLineThatFailsAndSaysWhy) {
         {"an answer no box took", "answer yes\nmenu mnuAutoUpdate", 2,
          "no message box came for the answer yes of line 1"},
         {"an answer at the end", "new\nanswer ok", 2, "no action follows the answer ok"},
+        {"a box in the middle of repeated clicks",
+         "menu mnuFormations\nclick btnGroupName\nclick frmNewRecord.btnAddRecord\n"
+         "click frmNewRecord.btnCancel\npick cmbFormPattern \"Ketten\"\nclick btnPilotName\n"
+         "click frmNewRecord.btnAddRecord 8",
+         7,
+         "(title \"Maximum Reached\"): \"Maximum Number of Allowed Pilots has been Reached "
+         "for [Ketten] Pattern.\" (click 7 of 8)"},
+        {"a click at a point on a button", "click btnGroupName 10 10", 1,
+         "btnGroupName is a button: a click at a point works on picture surfaces"},
         {"a box expected where none came", "new\nexpect box \"x\"", 2,
          "no message box came at line 1"},
         {"a good run",
@@ -91,7 +100,10 @@ TEST(ScenarioRunTest, StopsAtTheLineThatFailsAndSaysWhy) {
              "menu mnuWaypoints\n"
              "expect mnuWaypoints.Checked = true\n"
              "move mapWayPoints 1200 800\n"
-             "expect status contains \"Lat: [N\"\n",
+             "expect status contains \"Lat: [N\"\n"
+             "click mapWayPoints 1000 1000\n"
+             "click mapWayPoints 2000 1000\n"
+             "expect lstPoints.ListCount = 2\n",
          0, ""},
     };
     for (const auto& c : cases) {
