@@ -131,57 +131,6 @@ TEST_F(WaypointTest, TheEndOfADragMovesTheEndsAGroupDoesNotFlyFromOrTo) {
     }
 }
 
-TEST_F(WaypointTest, DraggingARowMovesItsPositionAndLeavesTheAltitudes) {
-    ClickPoints(3);
-    const std::vector<std::string> before = {Position(1), Position(2), Position(3)};
-    for (int i = 1; i <= 3; ++i)
-        doc.WPAlt(0, i) = 100 * i;
-    ListBox& list = frm.lstPoints;
-    // The list selects the row under the pointer before each of its mouse events.
-    list.SetListIndex(0);
-    list.RaiseMouseDown(kLeftButton, 0, 0, 0);
-    for (int row : {1, 2}) {
-        list.SetListIndex(row);
-        list.RaiseMouseMove(kLeftButton, 0, 0, 0);
-    }
-    list.RaiseMouseUp(kLeftButton, 0, 0, 0);
-    const std::vector<std::string> after = {before[1], before[2], before[0]};
-    for (int r = 0; r < 3; ++r) {
-        EXPECT_EQ(list.List(r), Row(r + 1, after[r]));
-        EXPECT_EQ(Position(r + 1), after[r]);
-        EXPECT_EQ(doc.WPAlt(0, r + 1), 100 * (r + 1));
-    }
-    EXPECT_EQ(frm.txtPoint.Text(), after[2]);
-}
-
-TEST_F(WaypointTest, ARangeSelectedWithShiftTakesAltitudeAndFlagsAtOnce) {
-    ClickPoints(4);
-    ListBox& list = frm.lstPoints;
-    for (auto [row, shift] : {std::pair{0, 0}, std::pair{2, kShiftMask}}) {
-        list.SetListIndex(row);
-        list.RaiseMouseDown(kLeftButton, shift, 0, 0);
-        list.RaiseMouseUp(kLeftButton, shift, 0, 0);
-    }
-    ListBox& range = frm.lstPointsExtended;
-    ASSERT_TRUE(range.Visible());
-    const int lastAlt = doc.WPAlt(0, 4);
-    frm.txtAlt.SetText("7000");
-    CheckBox& cap = frm.chkWPOptions(2);
-    cap.UserClick();
-    cap.RaiseMouseUp(kLeftButton, 0, 0, 0);
-    for (int i = 1; i <= 3; ++i) {
-        EXPECT_EQ(doc.WPAlt(0, i), 7000) << i;
-        EXPECT_EQ(doc.WPCap(0, i), cap.Value()) << i;
-    }
-    EXPECT_EQ(doc.WPAlt(0, 4), lastAlt);
-    // A press without Shift goes back to lstPoints, on the row pressed.
-    range.SetSelection({1}, 1);
-    range.RaiseMouseDown(kLeftButton, 0, 0, 0);
-    EXPECT_FALSE(range.Visible());
-    EXPECT_EQ(ed.ActivePointList, &list);
-    EXPECT_EQ(list.ListIndex(), 1);
-}
-
 TEST_F(WaypointTest, TypedValuesOutsideTheirFieldAreRefusedAndOthersReadAsTheirNumber) {
     ClickPoints(2);
     frm.lstPoints.SetListIndex(0);
