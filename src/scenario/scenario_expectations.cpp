@@ -1,6 +1,7 @@
 // The expectations of a scenario: what the controls show, the status strip, the last box, the
 // files written and the document.
 #include <charconv>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 
@@ -128,6 +129,12 @@ void ScenarioRun::ExpectFileSame(const std::string& path, const std::string& ref
 
 void ScenarioRun::ExpectFileText(const std::string& path, const Expected& expected) {
     Verify("the text of " + path, FileText(path), expected);
+}
+
+void ScenarioRun::ExpectFileThere(const std::string& path, bool there) {
+    std::error_code error;
+    if (std::filesystem::exists(path, error) == there) return;
+    throw ScenarioError(there ? "there is no file " + path : "the file " + path + " is there");
 }
 
 void ScenarioRun::ExpectDoc(const std::string& field, const std::vector<int>& indexes,

@@ -76,6 +76,8 @@ class ScenarioRun {
     void ExpectBox(const std::string& part, const Expected& expected);
     void ExpectFileSame(const std::string& path, const std::string& reference);
     void ExpectFileText(const std::string& path, const Expected& expected);
+    // The file is there (`there`) or gone.
+    void ExpectFileThere(const std::string& path, bool there);
     void ExpectDoc(const std::string& field, const std::vector<int>& indexes,
                    const Expected& expected);
 

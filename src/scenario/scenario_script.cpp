@@ -350,6 +350,11 @@ Act ParseExpect(Args& a) {
     }
     if (SameText(subject, "file")) {
         const std::string path = a.Path("file");
+        const bool exists = a.TakeWord("exists");
+        if (exists || a.TakeWord("missing")) {
+            a.End();
+            return [path, exists](ScenarioRun& r) { r.ExpectFileThere(path, exists); };
+        }
         if (a.TakeWord("same-as")) {
             const std::string reference = a.Path("file to compare with");
             a.End();

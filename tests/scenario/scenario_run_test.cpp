@@ -126,14 +126,18 @@ TEST(ScenarioRunTest, FileComparisonNamesTheFirstLineThatDiffers) {
     const fs::path b = editor.Folder() / "b.txt";
     std::ofstream(a, std::ios::binary) << "one\r\ntwo\r\nthree\r\n";
     std::ofstream(b, std::ios::binary) << "one\r\ntwo\r\n";
-    const auto failure =
-        editor.Play("expect file a.txt same-as a.txt\nexpect file a.txt same-as b.txt");
+    const auto failure = editor.Play(
+        "expect file a.txt exists\nexpect file c.txt missing\nexpect file a.txt same-as a.txt\n"
+        "expect file a.txt same-as b.txt");
     ASSERT_TRUE(failure);
-    EXPECT_EQ(failure->line, 2);
+    EXPECT_EQ(failure->line, 4);
     EXPECT_NE(failure->message.find("differs from " + b.string() +
                                     " at line 3: \"three\\r\\n\" where it has \"\""),
               std::string::npos)
         << failure->message;
+    const auto there = editor.Play("expect file a.txt missing");
+    ASSERT_TRUE(there);
+    EXPECT_EQ(there->message, "the file " + a.string() + " is there");
 }
 
 }  // namespace

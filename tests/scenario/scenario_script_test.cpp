@@ -36,6 +36,8 @@ TEST(ScenarioScriptTest, EachLineIsReadOrRefusedWithItsReason) {
         {"expect doc WPLat(0,1) != \"\"", ""},
         {"expect file $SCRATCH/a.mis same-as golden/a.mis", ""},
         {"file cancel", ""},
+        {"expect file $SCRATCH/a.txt missing", ""},
+        {"expect file $SCRATCH/a.mis exists later", "unexpected \"later\""},
         {"open $MISSION", "$MISSION is set only when missions are named"},
         {"open $NOSUCH", "unknown variable $NOSUCH"},
         {"type txtTitle \"cost $5\"", "write $$ for a dollar sign"},
