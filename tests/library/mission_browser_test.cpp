@@ -65,43 +65,6 @@ TEST_F(BrowserTest, TheFilterOfTheLastRunShowsItsMissionsByTitleAndIsKept) {
     EXPECT_EQ(Titles().size(), 4u);
 }
 
-TEST_F(BrowserTest, DeletingNeverRetargetsTheOpenMissionUnlessItsOwnFileGoes) {
-    struct Case {
-        const char* row;
-        MsgAnswer answer;
-        bool gone;
-        std::string pathAfter;
-    };
-    const std::string open = (Missions() / "a.mis").string();
-    const Case cases[] = {
-        {"Bravo", MsgAnswer::No, false, open},
-        {"Bravo", MsgAnswer::Yes, true, open},
-        {"Alpha", MsgAnswer::Yes, true, ""},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(std::string(c.row) + (c.answer == MsgAnswer::Yes ? " yes" : " no"));
-        Write("a.mis", Mission("Alpha", 1));
-        const auto file = Write("b.mis", Mission("Bravo", 1));
-        const auto target = c.row == std::string("Alpha") ? Missions() / "a.mis" : file;
-        ed().doc.MissionPath = open;
-        ed().doc.MissionFile = "a.mis";
-        Browse();
-        SelectTitle(c.row);
-        dialogs().QueueMsgAnswer(c.answer);
-        ed().frmtblMissions.btnDelete.UserClick();
-
-        EXPECT_EQ(dialogs().messages.back().text,
-                  "You are about to delete the following:\n\nFile: " + target.filename().string() +
-                      "\nTitle: " + c.row + "\n\nAre you sure?");
-        EXPECT_EQ(std::filesystem::exists(target), !c.gone);
-        EXPECT_EQ(Count(), c.gone ? 1 : 2);
-        EXPECT_EQ(Titles().size(), c.gone ? 1u : 2u);
-        EXPECT_EQ(ed().doc.MissionPath, c.pathAfter);
-        EXPECT_EQ(ed().doc.MissionFile, "a.mis");
-        ed().frmtblMissions.UnloadForm();
-    }
-}
-
 TEST_F(BrowserTest, AMissionGoneSinceTheScanCanNeitherBeDeletedNorOpened) {
     const auto file = Write("a.mis", Mission("Alpha", 1));
     Browse();
@@ -118,16 +81,6 @@ TEST_F(BrowserTest, AMissionGoneSinceTheScanCanNeitherBeDeletedNorOpened) {
     EXPECT_NE(dialogs().messages.back().title.find("*** Load Mission File Error ***"),
               std::string::npos);
     EXPECT_FALSE(ed().frmtblMissions.Visible());
-}
-
-TEST_F(BrowserTest, ADoubleClickOpensTheMissionAndClosesTheBrowser) {
-    const auto sample = CopySample("Amsterdam_Escort.mis");
-    Browse().grdDataGrid.RaiseDblClick();
-    EXPECT_EQ(ed().doc.MissionPath, sample.string());
-    EXPECT_EQ(ed().doc.MissionFile, "Amsterdam_Escort.mis");
-    EXPECT_EQ(ed().FrmMission.txtTitle.Text(), "Fortresses to Amsterdam");
-    EXPECT_FALSE(ed().frmtblMissions.Visible());
-    EXPECT_TRUE(ed().MDIMissionED.mnuCompact.Enabled());
 }
 
 }  // namespace
