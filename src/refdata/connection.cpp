@@ -2,7 +2,9 @@
 
 #include <sqlite3.h>
 
+#include <cstring>
 #include <filesystem>
+#include <fstream>
 
 #include "common/error.h"
 #include "refdata/database_errors.h"
@@ -29,6 +31,13 @@ class ResetOnExit {
   private:
     sqlite3_stmt* statement_;
 };
+
+bool HasDatabaseHeader(const std::string& path) {
+    static constexpr char kHeader[16] = "SQLite format 3";  // with its closing zero
+    std::ifstream in(path, std::ios::binary);
+    char head[16] = {};
+    return in.read(head, sizeof head) && std::memcmp(head, kHeader, sizeof head) == 0;
+}
 
 FieldValue ColumnValue(sqlite3_stmt* statement, int index) {
     switch (sqlite3_column_type(statement, index)) {
@@ -65,11 +74,17 @@ int Bind(sqlite3_stmt* statement, int index, const FieldValue& value) {
 
 }  // namespace
 
-Connection::Connection(const std::string& path) : path_(path) {
+Connection::Connection(const std::string& path, bool readOnly) : path_(path) {
     std::error_code error;
     if (!std::filesystem::is_regular_file(path, error)) Raise(kErrFileNotFound);
+    // The engine would take an empty file, or one it can't read yet, for a new database and
+    // write one into it: a file is opened only when it is a database already.
+    if (!HasDatabaseHeader(path))
+        Raise(kErrUnrecognizedDatabase, "Unrecognized database format '" + path + "'.");
     // Without SQLITE_OPEN_CREATE a missing file is never made into an empty database.
-    if (sqlite3_open_v2(path.c_str(), &db_, SQLITE_OPEN_READWRITE, nullptr) != SQLITE_OK) {
+    // Each connection serves one thread, so the engine's own locking of it is left out.
+    const int mode = readOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;
+    if (sqlite3_open_v2(path.c_str(), &db_, mode | SQLITE_OPEN_NOMUTEX, nullptr) != SQLITE_OK) {
         const std::string message = db_ ? sqlite3_errmsg(db_) : "out of memory";
         Close();
         Raise(kErrSqlFailed, message);
@@ -90,6 +105,7 @@ Connection::Connection(const std::string& path) : path_(path) {
         }
         Raise(kErrSqlFailed, message);
     }
+    if (readOnly) return;
     // A write-ahead log makes each commit (a mission load adds layouts) cheap, and lets a
     // second running copy read while this one writes. A folder where the log can't be made
     // keeps the plain journal.
@@ -102,8 +118,8 @@ Connection::~Connection() {
 }
 
 void Connection::Close() noexcept {
-    for (auto& [sql, statement] : cache_)
-        sqlite3_finalize(statement);
+    for (auto& [sql, prepared] : cache_)
+        sqlite3_finalize(prepared.statement);
     cache_.clear();
     if (db_) sqlite3_close_v2(db_);
     db_ = nullptr;
@@ -114,12 +130,12 @@ void Connection::RaiseEngineError() const {
     Raise(kErrSqlFailed, sqlite3_errmsg(db_));
 }
 
-sqlite3_stmt* Connection::Prepare(const std::string& sql) {
+Connection::Prepared& Connection::Prepare(const std::string& sql) {
     if (!db_) RaiseEngineError();
     if (const auto found = cache_.find(sql); found != cache_.end()) return found->second;
     if (cache_.size() >= kMaxCachedStatements) {
-        for (auto& [text, statement] : cache_)
-            sqlite3_finalize(statement);
+        for (auto& [text, prepared] : cache_)
+            sqlite3_finalize(prepared.statement);
         cache_.clear();
     }
     sqlite3_stmt* statement = nullptr;
@@ -129,8 +145,11 @@ sqlite3_stmt* Connection::Prepare(const std::string& sql) {
         RaiseEngineError();
     }
     if (!statement) Raise(kErrSqlFailed, "Invalid SQL statement: the text is empty.");
-    cache_.emplace(sql, statement);
-    return statement;
+    Prepared prepared;
+    prepared.statement = statement;
+    for (int i = 0; i < sqlite3_column_count(statement); ++i)
+        prepared.columns.push_back(sqlite3_column_name(statement, i));
+    return cache_.emplace(sql, std::move(prepared)).first->second;
 }
 
 void Connection::Run(const std::string& sql) {
@@ -159,7 +178,8 @@ void Connection::Run(const std::string& sql, const std::vector<FieldValue>& para
 std::vector<std::vector<FieldValue>> Connection::Query(const std::string& sql,
                                                        const std::vector<FieldValue>& parameters,
                                                        std::vector<std::string>* columns) {
-    sqlite3_stmt* statement = Prepare(sql);
+    Prepared& prepared = Prepare(sql);
+    sqlite3_stmt* statement = prepared.statement;
     ResetOnExit reset(statement);
     for (size_t i = 0; i < parameters.size(); ++i) {
         if (Bind(statement, static_cast<int>(i) + 1, parameters[i]) != SQLITE_OK) {
@@ -167,11 +187,7 @@ std::vector<std::vector<FieldValue>> Connection::Query(const std::string& sql,
         }
     }
     const int count = sqlite3_column_count(statement);
-    if (columns) {
-        columns->clear();
-        for (int i = 0; i < count; ++i)
-            columns->push_back(sqlite3_column_name(statement, i));
-    }
+    if (columns) *columns = prepared.columns;
     std::vector<std::vector<FieldValue>> rows;
     int rc;
     while ((rc = sqlite3_step(statement)) == SQLITE_ROW) {
@@ -184,13 +200,8 @@ std::vector<std::vector<FieldValue>> Connection::Query(const std::string& sql,
     return rows;
 }
 
-std::vector<std::string> Connection::ColumnNames(const std::string& sql) {
-    sqlite3_stmt* statement = Prepare(sql);
-    std::vector<std::string> names;
-    for (int i = 0; i < sqlite3_column_count(statement); ++i) {
-        names.push_back(sqlite3_column_name(statement, i));
-    }
-    return names;
+const std::vector<std::string>& Connection::ColumnNames(const std::string& sql) {
+    return Prepare(sql).columns;
 }
 
 std::int64_t Connection::LastInsertRowid() const {

@@ -17,8 +17,8 @@ enum class ObjectKind { None, Table, View };
 
 class Connection {
   public:
-    // Opens an existing file; see Database::Open.
-    explicit Connection(const std::string& path);
+    // Opens an existing file; see Database::Open and Database::OpenReadOnly.
+    explicit Connection(const std::string& path, bool readOnly = false);
     ~Connection();
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
@@ -36,8 +36,9 @@ class Connection {
     std::vector<std::vector<FieldValue>> Query(const std::string& sql,
                                                const std::vector<FieldValue>& parameters = {},
                                                std::vector<std::string>* columns = nullptr);
-    // The names of a statement's result columns, without running it.
-    std::vector<std::string> ColumnNames(const std::string& sql);
+    // The names of a statement's result columns, without running it. The reference holds
+    // until the next statement is prepared.
+    const std::vector<std::string>& ColumnNames(const std::string& sql);
 
     std::int64_t LastInsertRowid() const;
     // Whether a name is a table or a view, without regard to case; `canonical` gets the name
@@ -47,12 +48,18 @@ class Connection {
     [[noreturn]] void RaiseEngineError() const;
 
   private:
-    // A reset statement for one statement text, prepared once and kept.
-    sqlite3_stmt* Prepare(const std::string& sql);
+    struct Prepared {
+        sqlite3_stmt* statement = nullptr;
+        std::vector<std::string> columns;
+    };
+
+    // A reset statement for one statement text, prepared once and kept with the names of
+    // its columns.
+    Prepared& Prepare(const std::string& sql);
 
     sqlite3* db_ = nullptr;
     std::string path_;
-    std::unordered_map<std::string, sqlite3_stmt*> cache_;
+    std::unordered_map<std::string, Prepared> cache_;
 };
 
 }  // namespace tarvex::detail

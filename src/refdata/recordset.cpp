@@ -7,6 +7,7 @@
 #include "common/text.h"
 #include "refdata/connection.h"
 #include "refdata/database_errors.h"
+#include "refdata/sql_parameters.h"
 #include "refdata/sql_tokens.h"
 #include "refdata/sql_translation.h"
 
@@ -53,7 +54,9 @@ Recordset& Recordset::operator=(Recordset&&) noexcept = default;
 Recordset::Recordset(std::shared_ptr<detail::Connection> connection, const std::string& nameOrSql,
                      int type)
     : connection_(std::move(connection)), type_(type) {
-    const std::string sql = TranslateSql(nameOrSql);
+    ParameterizedSql parameterized = ParameterizeSql(nameOrSql);
+    const std::string sql = TranslateSqlOnce(parameterized.shape);
+    loadParameters_ = std::move(parameterized.values);
     const bool snapshot = type == kSnapshot;
     std::string source;
     std::string selectList = "*";
@@ -134,7 +137,7 @@ Recordset::Row Recordset::MakeRow(std::vector<FieldValue> values) const {
 }
 
 void Recordset::Load() const {
-    auto result = connection_->Query(loadSql_);
+    auto result = connection_->Query(loadSql_, loadParameters_);
     rows_.clear();
     rows_.reserve(result.size() + pendingAdds_.size());
     for (auto& values : result)

@@ -152,8 +152,9 @@ class Recordset {
     int type_ = kUpdatable;
     Target target_ = Target::None;
     std::string targetName_;
-    std::string loadSql_;     // for a table: the rowid first, then the fields
-    std::string refetchSql_;  // for a table: the fields of one rowid
+    std::string loadSql_;                     // for a table: the rowid first, then the fields
+    std::vector<FieldValue> loadParameters_;  // the values taken out of the text
+    std::string refetchSql_;                  // for a table: the fields of one rowid
     std::vector<std::string> columns_;
 
     mutable bool loaded_ = false;
