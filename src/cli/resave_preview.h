@@ -1,0 +1,26 @@
+#pragma once
+// What the first save of a loaded mission would change in its file, and why: the load may
+// give a layout to an airfield, make a new layout from the file's units, or bring a value
+// back in the form the editor writes it.
+#include <string>
+#include <vector>
+
+#include "app/headless_editor.h"
+
+namespace tarvex::cli {
+
+struct ResavePreview {
+    bool ok = true;                    // the save could be composed
+    std::string failure;               // the save report when it couldn't
+    std::vector<std::string> before;   // the lines of the file, in UTF-8
+    std::vector<std::string> after;    // the lines a save would write
+    int changedLines = 0;              // lines of the file that the save replaces or drops
+    int addedLines = 0;                // lines the save adds or puts in their place
+    std::vector<std::string> reasons;  // what changes, one line each, in the order of the file
+};
+
+// Composes the save of the mission the editor has loaded from `path` (nothing is written)
+// and compares it with the file.
+ResavePreview PreviewResave(HeadlessEditor& editor, const std::string& path);
+
+}  // namespace tarvex::cli
