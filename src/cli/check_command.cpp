@@ -74,8 +74,7 @@ int RunCheck(const CommonOptions& options, const std::vector<std::string>& files
             }
             cout << item.shown << ": OK\n";
             if (preview.reasons.empty()) continue;
-            cout << "    a first save changes " << preview.changedLines << " of "
-                 << preview.before.size() << " lines:\n";
+            cout << "    a first save changes " << preview.changedLines << " lines:\n";
             for (const std::string& reason : preview.reasons)
                 cout << "    - " << reason << "\n";
             continue;

@@ -5,6 +5,7 @@
 #include "cli/install_folders.h"
 #include "cli/resave_preview.h"
 #include "cli/unified_diff.h"
+#include "common/encoding.h"
 
 namespace tarvex::cli {
 
@@ -20,7 +21,8 @@ int RunDiff(const CommonOptions& options, const std::string& in, std::ostream& c
         cerr << in << ": a save would fail\n" << Indented(preview.failure, "    ");
         return kExitSaveFailed;
     }
-    cout << UnifiedDiff(in, in + " (resaved)", preview.before, preview.after);
+    cout << UnifiedDiff(in, in + " (resaved)", SplitLines(preview.before),
+                        SplitLines(preview.after));
     return kExitOk;
 }
 

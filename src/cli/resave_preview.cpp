@@ -1,11 +1,12 @@
 #include "cli/resave_preview.h"
 
+#include <algorithm>
 #include <fstream>
-#include <iterator>
 #include <map>
-#include <sstream>
+#include <string_view>
+#include <unordered_map>
+#include <unordered_set>
 
-#include "cli/unified_diff.h"
 #include "common/encoding.h"
 #include "common/error.h"
 #include "common/number_text.h"
@@ -22,43 +23,58 @@ namespace {
 constexpr std::size_t kMaxReasons = 20;
 
 struct Section {
-    std::string header;
-    std::vector<std::string> lines;  // the lines behind the header
+    std::string_view header;
+    std::vector<std::string_view> lines;  // the lines behind the header, blank ones left out
 };
 
-std::vector<Section> Sections(const std::vector<std::string>& lines) {
+// The sections of a text, on views into it.
+std::vector<Section> Sections(std::string_view text) {
     std::vector<Section> sections;
-    for (const std::string& line : lines) {
+    for (std::size_t start = 0; start < text.size();) {
+        const std::size_t end = LineEndAt(text, start);
+        const std::string_view line = text.substr(start, end - start);
+        start = NextLineAt(text, end);
         if (!line.empty() && line[0] == '[') {
             sections.push_back({line, {}});
-        } else if (!sections.empty()) {
-            if (!line.empty()) sections.back().lines.push_back(line);
+        } else if (!sections.empty() && !line.empty()) {
+            sections.back().lines.push_back(line);
         }
     }
     return sections;
 }
 
 // The value of `key=` in a section, or empty.
-std::string ValueOf(const Section& section, const std::string& key) {
-    for (const std::string& line : section.lines)
-        if (line.compare(0, key.size() + 1, key + "=") == 0) return line.substr(key.size() + 1);
+std::string_view ValueOf(const Section& section, std::string_view key) {
+    for (std::string_view line : section.lines)
+        if (line.size() > key.size() && line.substr(0, key.size()) == key &&
+            line[key.size()] == '=')
+            return line.substr(key.size() + 1);
     return {};
 }
 
 // The layout row of a ground unit section, from its id; -1 for a pilot.
 int LayoutRowOf(const Section& section) {
-    if (section.header.rfind("[unit.", 0) != 0) return -1;
+    if (section.header.substr(0, 6) != "[unit.") return -1;
     const long id = ValLng(ValueOf(section, "id"));
     return id >= 2000 ? static_cast<int>((id - 2000) / 60) : -1;
+}
+
+// The lines of a section that another version of it has otherwise, by their place.
+int ChangedLines(const Section& a, const Section& b) {
+    const std::size_t n = std::max(a.lines.size(), b.lines.size());
+    int changed = 0;
+    for (std::size_t i = 0; i < n; ++i)
+        if (i >= a.lines.size() || i >= b.lines.size() || a.lines[i] != b.lines[i]) ++changed;
+    return changed;
 }
 
 // The first line that differs, as "old becomes new".
 std::string FirstDifference(const Section& a, const Section& b) {
     const std::size_t n = std::max(a.lines.size(), b.lines.size());
     for (std::size_t i = 0; i < n; ++i) {
-        const std::string left = i < a.lines.size() ? a.lines[i] : std::string("(nothing)");
-        const std::string right = i < b.lines.size() ? b.lines[i] : std::string("(nothing)");
-        if (left != right) return left + " becomes " + right;
+        const std::string_view left = i < a.lines.size() ? a.lines[i] : "(nothing)";
+        const std::string_view right = i < b.lines.size() ? b.lines[i] : "(nothing)";
+        if (left != right) return std::string(left) + " becomes " + std::string(right);
     }
     return "its lines change";
 }
@@ -72,8 +88,12 @@ std::string LayoutName(Editor& ed, int row) {
 }
 
 std::string ReadFile(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+    std::ifstream in(path, std::ios::binary | std::ios::ate);
+    std::string bytes(static_cast<std::size_t>(std::max<std::streamoff>(in.tellg(), 0)), '\0');
+    in.seekg(0);
+    in.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    bytes.resize(static_cast<std::size_t>(std::max<std::streamsize>(in.gcount(), 0)));
+    return bytes;
 }
 
 }  // namespace
@@ -91,45 +111,51 @@ ResavePreview PreviewResave(HeadlessEditor& editor, const std::string& path) {
                           IntText(e.Number()) + "]";
         return preview;
     }
-    preview.before = SplitLines(Cp1252ToUtf8(ReadFile(path)));
-    preview.after = SplitLines(Cp1252ToUtf8(composed));
-    for (const DiffLine& line : DiffLines(preview.before, preview.after)) {
-        if (line.op == '-') ++preview.changedLines;
-        if (line.op == '+') ++preview.addedLines;
-    }
-    if (preview.changedLines == 0 && preview.addedLines == 0) return preview;
+    const std::string bytes = ReadFile(path);
+    if (bytes == composed) return preview;
+    preview.before = Cp1252ToUtf8(bytes);
+    preview.after = Cp1252ToUtf8(composed);
 
     // The ground unit sections that change, by layout, and every other section that does.
     const std::vector<Section> was = Sections(preview.before);
     const std::vector<Section> will = Sections(preview.after);
     std::map<int, int> movedUnits;  // layout row -> unit sections that change
     std::vector<std::string> others;
-    std::map<std::string, const Section*> byHeader;
+    std::unordered_map<std::string_view, const Section*> byHeader;
     for (const Section& section : was)
         byHeader.emplace(section.header, &section);
-    std::map<std::string, bool> seen;
+    std::unordered_set<std::string_view> seen;
     for (const Section& section : will) {
-        seen[section.header] = true;
+        seen.insert(section.header);
         const auto found = byHeader.find(section.header);
         if (found == byHeader.end()) {
+            preview.changedLines += static_cast<int>(section.lines.size()) + 1;
             const int row = LayoutRowOf(section);
             if (row >= 0) {
                 ++movedUnits[row];
             } else {
-                others.push_back(section.header + " is added");
+                others.push_back(std::string(section.header) + " is added");
             }
             continue;
         }
         if (found->second->lines == section.lines) continue;
+        preview.changedLines += ChangedLines(*found->second, section);
         const int row = LayoutRowOf(section);
         if (row >= 0 && row == LayoutRowOf(*found->second)) {
             ++movedUnits[row];
         } else {
-            others.push_back(section.header + " " + FirstDifference(*found->second, section));
+            others.push_back(std::string(section.header) + " " +
+                             FirstDifference(*found->second, section));
         }
     }
-    for (const Section& section : was)
-        if (!seen.count(section.header)) others.push_back(section.header + " is dropped");
+    for (const Section& section : was) {
+        if (seen.count(section.header)) continue;
+        preview.changedLines += static_cast<int>(section.lines.size()) + 1;
+        others.push_back(std::string(section.header) + " is dropped");
+    }
+    // Only line ends differ: every line is written anew.
+    if (preview.changedLines == 0)
+        preview.changedLines = static_cast<int>(SplitLines(bytes).size());
 
     for (const LayoutLoadNote& note : ed.loader.LayoutNotes) {
         const std::string head = "layout " + IntText(note.row + 1) + " '" + note.layoutName + "'";

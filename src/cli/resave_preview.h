@@ -10,12 +10,11 @@
 namespace tarvex::cli {
 
 struct ResavePreview {
-    bool ok = true;                    // the save could be composed
-    std::string failure;               // the save report when it couldn't
-    std::vector<std::string> before;   // the lines of the file, in UTF-8
-    std::vector<std::string> after;    // the lines a save would write
-    int changedLines = 0;              // lines of the file that the save replaces or drops
-    int addedLines = 0;                // lines the save adds or puts in their place
+    bool ok = true;        // the save could be composed
+    std::string failure;   // the save report when it couldn't
+    std::string before;    // the file's text, in UTF-8; empty when the save writes the same
+    std::string after;     // the text a save would write, the same way
+    int changedLines = 0;  // lines that the save writes otherwise, adds or drops
     std::vector<std::string> reasons;  // what changes, one line each, in the order of the file
 };
 

@@ -19,7 +19,8 @@ bool SearchMiddle(const std::string* a, int n, const std::string* b, int m,
     std::vector<std::vector<int>> trace;
     int found = -1;
     for (int d = 0; d <= max && found < 0; ++d) {
-        trace.push_back(v);
+        // Only the diagonals -d..d can have been reached: they are all the way back needs.
+        trace.emplace_back(v.begin() + offset - d, v.begin() + offset + d + 1);
         for (int k = -d; k <= d; k += 2) {
             int x = (k == -d || (k != d && v[offset + k - 1] < v[offset + k + 1]))
                         ? v[offset + k + 1]
@@ -45,9 +46,9 @@ bool SearchMiddle(const std::string* a, int n, const std::string* b, int m,
     for (int d = found; d > 0; --d) {
         const std::vector<int>& row = trace[d];
         const int k = x - y;
-        const bool down = k == -d || (k != d && row[offset + k - 1] < row[offset + k + 1]);
+        const bool down = k == -d || (k != d && row[k - 1 + d] < row[k + 1 + d]);
         const int prevK = down ? k + 1 : k - 1;
-        const int prevX = row[offset + prevK];
+        const int prevX = row[prevK + d];
         const int prevY = prevX - prevK;
         while (x > prevX && y > prevY) {
             reversed.push_back({' ', &a[--x]});

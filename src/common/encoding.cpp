@@ -116,18 +116,23 @@ std::string Cp1252ToUtf8(std::string_view bytes) {
     return out;
 }
 
+size_t LineEndAt(std::string_view text, size_t from) {
+    while (from < text.size() && text[from] != '\r' && text[from] != '\n')
+        ++from;
+    return from;
+}
+
+size_t NextLineAt(std::string_view text, size_t end) {
+    if (end >= text.size()) return text.size();
+    return end + ((text[end] == '\r' && end + 1 < text.size() && text[end + 1] == '\n') ? 2 : 1);
+}
+
 std::vector<std::string> SplitLines(std::string_view text) {
     std::vector<std::string> lines;
-    size_t start = 0;
-    while (start < text.size()) {
-        const size_t end = text.find_first_of("\r\n", start);
-        if (end == std::string_view::npos) {
-            lines.emplace_back(text.substr(start));
-            break;
-        }
+    for (size_t start = 0; start < text.size();) {
+        const size_t end = LineEndAt(text, start);
         lines.emplace_back(text.substr(start, end - start));
-        start =
-            end + ((text[end] == '\r' && end + 1 < text.size() && text[end + 1] == '\n') ? 2 : 1);
+        start = NextLineAt(text, end);
     }
     return lines;
 }

@@ -16,6 +16,11 @@ std::string Utf8ToCp1252(std::string_view text);
 // control characters of the same number, so they survive a round trip.
 std::string Cp1252ToUtf8(std::string_view bytes);
 
+// Where the line that goes on at `from` ends: the first CR or LF from there, or the size.
+std::size_t LineEndAt(std::string_view text, std::size_t from);
+// Where the next line starts after a line end at `end` (one or two characters on).
+std::size_t NextLineAt(std::string_view text, std::size_t end);
+
 // The lines of a text: CR LF, a lone LF and a lone CR each end a line. A line end at the very
 // end starts no further line, so "a\r\n" is one line and "" none.
 std::vector<std::string> SplitLines(std::string_view text);

@@ -46,6 +46,31 @@ void AddLoadedLayout(Editor& ed, const std::string& text, float x, float y, int 
     frm.lstGUAdded.SetEnabled(true);
 }
 
+// The units filed under the pending record go to the database only when the record becomes
+// a layout of its own: a layout the database knows already deletes the record with them,
+// and most layouts of a mission are known, so their units would be written only to go again.
+void WritePendingUnits(Editor& ed) {
+    MissionLoaderState& st = ed.loader;
+    const MapProjection& proj = ed.projection;
+    for (const PendingUnit& unit : st.PendingUnits) {
+        // Offsets from the first unit of the layout, north-south and east-west.
+        const float unitLat = CSng(CoordTextToDegrees(unit.lat));
+        const float unitLon = CSng(CoordTextToDegrees(unit.lon));
+        const float northSouth =
+            proj.GreatCircleDistance(unitLat, unitLon, st.FirstUnitLat, unitLon);
+        const float eastWest = proj.GreatCircleDistance(unitLat, unitLon, unitLat, st.FirstUnitLon);
+        float xOffset = CSng(Val(Format(northSouth, "0.0000")) / kKmPerMinute);
+        float yOffset = CSng(Val(Format(eastWest, "0.0000")) / kKmPerMinute);
+        if (unitLat < st.FirstUnitLat) xOffset = -xOffset;
+        if (unitLon < st.FirstUnitLon) yOffset = -yOffset;
+        ed.db.theDB.Execute(" INSERT INTO GrndTypes (ID,UnitType,Points,XOffset,YOffset) VALUES (" +
+                            IntText(st.PendingLayoutID) + "," + IntText(unit.type) + "," +
+                            IntText(unit.points) + "," + FloatText(xOffset) + "," +
+                            FloatText(yOffset) + ");");
+    }
+    st.PendingUnits.clear();
+}
+
 void WindUp(Editor& ed, std::int32_t& unitSum) {
     ed.loader.LayoutKnown = false;
     unitSum = 0;
@@ -57,6 +82,7 @@ void WindUp(Editor& ed, std::int32_t& unitSum) {
 
 void Match(Editor& ed, std::int16_t unitId, std::int32_t& unitSum, bool deletePending, int depth) {
     MissionLoaderState& st = ed.loader;
+    st.CommentLayoutID = -1;  // the records may change from here
     Mission& doc = ed.doc;
     auto& frm = ed.FrmMission;
 
@@ -82,6 +108,7 @@ void Match(Editor& ed, std::int16_t unitId, std::int32_t& unitSum, bool deletePe
         // The pending record becomes the layout: with its sum it is found on the next try.
         // When even that finds nothing the record is gone, and trying again would never end.
         if (depth > 0) Raise(kErrOutOfStack);
+        WritePendingUnits(ed);
         ed.db.theDB.Execute("UPDATE GrndNames Set UnitTotal = " + IntText(unitSum) +
                             " where ID = " + IntText(st.PendingLayoutID));
         st.PendingLayoutOpen = false;
@@ -93,6 +120,7 @@ void Match(Editor& ed, std::int16_t unitId, std::int32_t& unitSum, bool deletePe
     }
 
     if (deletePending) {
+        st.PendingUnits.clear();
         ed.db.theDB.Execute("DELETE * FROM GrndNames where ID = " + IntText(st.PendingLayoutID));
         --st.UnnamedCount;
         st.PendingLayoutOpen = false;
@@ -139,6 +167,7 @@ void Match(Editor& ed, std::int16_t unitId, std::int32_t& unitSum, bool deletePe
 
 std::int16_t NewUnnamedLayout(Editor& ed) {
     MissionLoaderState& st = ed.loader;
+    st.CommentLayoutID = -1;
     ++st.UnnamedCount;
     const std::string& file = ed.doc.MissionFile;
     const std::string name = "Unnamed Layout" + IntText(st.UnnamedCount) + " in file [" +
@@ -178,6 +207,7 @@ void DropPendingLayout(Editor& ed) {
     MissionLoaderState& st = ed.loader;
     if (!st.PendingLayoutOpen) return;
     // The delete takes the units filed under the record with it.
+    st.PendingUnits.clear();
     ed.db.theDB.Execute("DELETE * FROM GrndNames where ID = " + IntText(st.PendingLayoutID));
     --st.UnnamedCount;
     st.PendingLayoutOpen = false;
@@ -213,16 +243,20 @@ void ReadGroundLayoutComment(Editor& ed, const std::string& value) {
     st.FileLayoutID = ValInt(Left(value, 4));
 
     ed.StepDetail = ": Retrieving Ground Layout [" + IntText(st.FileLayoutID) + "] from GrndNames";
-    {
+    // Every unit of a layout names the same record, and nothing the load writes between two
+    // of them changes its sum: it is looked up once per layout.
+    if (st.CommentLayoutID != st.FileLayoutID) {
+        st.CommentLayoutTotal = 0;
         Lookup rs(ed.db, "SELECT UnitTotal FROM GrndNames Where ID=" + IntText(st.FileLayoutID));
         if (!rs->Eof()) {
             rs->MoveFirst();
-            const std::int32_t total = rs->Fields("UnitTotal").Long();
-            if (total > 0) {
-                st.LayoutKnown = true;
-                st.UnitSum = total;
-            }
+            st.CommentLayoutTotal = rs->Fields("UnitTotal").Long();
         }
+        st.CommentLayoutID = st.FileLayoutID;
+    }
+    if (st.CommentLayoutTotal > 0) {
+        st.LayoutKnown = true;
+        st.UnitSum = st.CommentLayoutTotal;
     }
     ed.StepDetail.clear();
 }
@@ -246,19 +280,7 @@ void ReadGroundUnitLon(Editor& ed, const std::string& text) {
 
 void StoreGroundUnit(Editor& ed, std::int32_t type, std::uint8_t points, const std::string& lat,
                      const std::string& lon) {
-    MissionLoaderState& st = ed.loader;
-    const float unitLat = CSng(CoordTextToDegrees(lat));
-    const float unitLon = CSng(CoordTextToDegrees(lon));
-    const MapProjection& proj = ed.projection;
-    const float northSouth = proj.GreatCircleDistance(unitLat, unitLon, st.FirstUnitLat, unitLon);
-    const float eastWest = proj.GreatCircleDistance(unitLat, unitLon, unitLat, st.FirstUnitLon);
-    float xOffset = CSng(Val(Format(northSouth, "0.0000")) / kKmPerMinute);
-    float yOffset = CSng(Val(Format(eastWest, "0.0000")) / kKmPerMinute);
-    if (unitLat < st.FirstUnitLat) xOffset = -xOffset;
-    if (unitLon < st.FirstUnitLon) yOffset = -yOffset;
-    ed.db.theDB.Execute(" INSERT INTO GrndTypes (ID,UnitType,Points,XOffset,YOffset) VALUES (" +
-                        IntText(st.PendingLayoutID) + "," + IntText(type) + "," + IntText(points) +
-                        "," + FloatText(xOffset) + "," + FloatText(yOffset) + ");");
+    ed.loader.PendingUnits.push_back({type, points, lat, lon});
 }
 
 void NoteLayoutTakenByAirfield(Editor& ed, int row, const std::string& airfield, float miles) {

@@ -41,8 +41,8 @@ void ReadGroundUnitType(Editor& ed, std::int32_t type);
 void ReadGroundUnitLat(Editor& ed, const std::string& text);
 void ReadGroundUnitLon(Editor& ed, const std::string& text);
 
-// The damage line closes a ground unit: its offset from the layout's first unit goes into
-// GrndTypes under the pending record.
+// The damage line closes a ground unit: it is filed under the pending record, and goes into
+// GrndTypes with its offset from the layout's first unit when that record becomes a layout.
 void StoreGroundUnit(Editor& ed, std::int32_t type, std::uint8_t points, const std::string& lat,
                      const std::string& lon);
 

@@ -46,6 +46,8 @@ void StartLoadState(Editor& ed) {
     st.FileUnitID.Fill(0);
     st.LayoutNotes.clear();
     st.LayoutKept = false;
+    st.PendingUnits.clear();
+    st.CommentLayoutID = -1;
 }
 
 // The main loop: headers are found anywhere in a line, with regard to case, in a fixed order.

@@ -19,6 +19,14 @@ struct LayoutLoadNote {
     float miles = 0;         // the runway's distance from the layout
 };
 
+// A ground unit of the file as its section gave it, to be filed under the pending record.
+struct PendingUnit {
+    std::int32_t type = 0;
+    std::uint8_t points = 0;
+    std::string lat;  // as in the file
+    std::string lon;
+};
+
 struct MissionLoaderState {
     // Rows 0..60; only rows below FileUnitCount are matched, row 60 takes what doesn't fit.
     static constexpr int kFileUnitUpper = 60;
@@ -48,6 +56,13 @@ struct MissionLoaderState {
     // A pending record became a layout of the mission and stays: the only change of a load
     // that outlives it. A load that kept none has changed nothing and is undone whole.
     bool LayoutKept = false;
+    // The units filed under the pending record, written when the record becomes a layout of
+    // the mission; dropped with the record otherwise.
+    std::vector<PendingUnit> PendingUnits;
+    // The record last named by a comment line and its sum (0 without a record), while no
+    // record has changed since; -1 when none is known.
+    std::int32_t CommentLayoutID = -1;
+    std::int32_t CommentLayoutTotal = 0;
     std::vector<LayoutLoadNote> LayoutNotes;
 };
 

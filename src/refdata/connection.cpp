@@ -17,11 +17,16 @@ namespace {
 // cache starts afresh rather than grow without end.
 constexpr size_t kMaxCachedStatements = 512;
 
-// Resets a statement when the use of it ends, however it ends.
+// Resets a statement of the cache when the use of it ends, however it ends; one of its own
+// is finalized.
 class ResetOnExit {
   public:
-    explicit ResetOnExit(sqlite3_stmt* statement) : statement_(statement) {}
+    ResetOnExit(sqlite3_stmt* statement, bool owned) : statement_(statement), owned_(owned) {}
     ~ResetOnExit() {
+        if (owned_) {
+            sqlite3_finalize(statement_);
+            return;
+        }
         sqlite3_reset(statement_);
         sqlite3_clear_bindings(statement_);
     }
@@ -30,6 +35,7 @@ class ResetOnExit {
 
   private:
     sqlite3_stmt* statement_;
+    bool owned_;
 };
 
 bool HasDatabaseHeader(const std::string& path) {
@@ -118,6 +124,11 @@ Connection::~Connection() {
 }
 
 void Connection::Close() noexcept {
+    for (Cursor* cursor : std::vector<Cursor*>(cursors_)) {
+        cursor->Release();
+        cursor->closed_ = true;
+    }
+    cursors_.clear();
     for (auto& [sql, prepared] : cache_)
         sqlite3_finalize(prepared.statement);
     cache_.clear();
@@ -134,8 +145,11 @@ Connection::Prepared& Connection::Prepare(const std::string& sql) {
     if (!db_) RaiseEngineError();
     if (const auto found = cache_.find(sql); found != cache_.end()) return found->second;
     if (cache_.size() >= kMaxCachedStatements) {
+        // A statement an open cursor steps becomes that cursor's own.
+        for (Cursor* cursor : cursors_)
+            cursor->cached_ = nullptr;
         for (auto& [text, prepared] : cache_)
-            sqlite3_finalize(prepared.statement);
+            if (!prepared.inUse) sqlite3_finalize(prepared.statement);
         cache_.clear();
     }
     sqlite3_stmt* statement = nullptr;
@@ -152,8 +166,120 @@ Connection::Prepared& Connection::Prepare(const std::string& sql) {
     return cache_.emplace(sql, std::move(prepared)).first->second;
 }
 
+sqlite3_stmt* Connection::Statement(const std::string& sql, bool& owned, Prepared*& cached) {
+    Prepared& prepared = Prepare(sql);
+    owned = prepared.inUse;
+    cached = owned ? nullptr : &prepared;
+    if (!owned) return prepared.statement;
+    sqlite3_stmt* statement = nullptr;
+    if (sqlite3_prepare_v2(db_, sql.c_str(), static_cast<int>(sql.size()), &statement, nullptr) !=
+        SQLITE_OK)
+        RaiseEngineError();
+    return statement;
+}
+
+void Connection::SettleCursors() {
+    while (!cursors_.empty())
+        cursors_.back()->Settle();
+}
+
+void Connection::ForgetCursor(Cursor* cursor) noexcept {
+    for (size_t i = 0; i < cursors_.size(); ++i) {
+        if (cursors_[i] != cursor) continue;
+        cursors_.erase(cursors_.begin() + static_cast<long>(i));
+        return;
+    }
+}
+
+std::shared_ptr<Cursor> Connection::OpenCursor(const std::string& sql,
+                                               const std::vector<FieldValue>& parameters) {
+    bool owned = false;
+    Prepared* cached = nullptr;
+    sqlite3_stmt* statement = Statement(sql, owned, cached);
+    const bool writes = !sqlite3_stmt_readonly(statement) || sqlite3_column_count(statement) == 0;
+    if (writes) SettleCursors();
+    std::shared_ptr<Cursor> cursor(new Cursor(*this, statement, cached));
+    if (cached) cached->inUse = true;
+    cursors_.push_back(cursor.get());
+    for (size_t i = 0; i < parameters.size(); ++i) {
+        if (Bind(statement, static_cast<int>(i) + 1, parameters[i]) != SQLITE_OK) {
+            const std::string message = sqlite3_errmsg(db_);
+            cursor->Release();
+            Raise(kErrSqlFailed, message);
+        }
+    }
+    // A statement that may write isn't stepped lazily: it runs whole at once.
+    if (writes) cursor->Settle();
+    return cursor;
+}
+
+Cursor::Cursor(Connection& connection, sqlite3_stmt* statement, void* cached)
+    : connection_(&connection), statement_(statement), cached_(cached) {}
+
+Cursor::~Cursor() {
+    Release();
+}
+
+void Cursor::Release() noexcept {
+    if (!statement_) return;
+    if (cached_) {
+        sqlite3_reset(statement_);
+        sqlite3_clear_bindings(statement_);
+        static_cast<Connection::Prepared*>(cached_)->inUse = false;
+    } else {
+        sqlite3_finalize(statement_);
+    }
+    statement_ = nullptr;
+    cached_ = nullptr;
+    done_ = true;
+    connection_->ForgetCursor(this);
+}
+
+bool Cursor::Step(std::vector<FieldValue>& row) {
+    const int rc = sqlite3_step(statement_);
+    if (rc == SQLITE_ROW) {
+        const int count = sqlite3_column_count(statement_);
+        row.clear();
+        row.reserve(count);
+        for (int i = 0; i < count; ++i)
+            row.push_back(ColumnValue(statement_, i));
+        return true;
+    }
+    if (rc == SQLITE_DONE) {
+        Release();
+        return false;
+    }
+    const std::string message = sqlite3_errmsg(connection_->db_);
+    Release();
+    Raise(kErrSqlFailed, message);
+}
+
+bool Cursor::Next(std::vector<FieldValue>& row) {
+    if (!buffered_.empty()) {
+        row = std::move(buffered_.front());
+        buffered_.pop_front();
+        return true;
+    }
+    if (closed_) Raise(kErrObjectClosed, "Object invalid or no longer set.");
+    if (done_) return false;
+    return Step(row);
+}
+
+void Cursor::Settle() {
+    std::vector<FieldValue> row;
+    try {
+        while (statement_ && Step(row))
+            buffered_.push_back(std::move(row));
+    } catch (...) {
+        // The rows read so far stay; the failure shows at the write that asked for this.
+        Release();
+        throw;
+    }
+}
+
 void Connection::Run(const std::string& sql) {
     if (!db_) RaiseEngineError();
+    SettleCursors();
     const char* next = sql.c_str();
     while (*next) {
         sqlite3_stmt* statement = nullptr;
@@ -178,16 +304,19 @@ void Connection::Run(const std::string& sql, const std::vector<FieldValue>& para
 std::vector<std::vector<FieldValue>> Connection::Query(const std::string& sql,
                                                        const std::vector<FieldValue>& parameters,
                                                        std::vector<std::string>* columns) {
-    Prepared& prepared = Prepare(sql);
-    sqlite3_stmt* statement = prepared.statement;
-    ResetOnExit reset(statement);
+    bool owned = false;
+    Prepared* cached = nullptr;
+    sqlite3_stmt* statement = Statement(sql, owned, cached);
+    if (columns) *columns = Prepare(sql).columns;
+    ResetOnExit reset(statement, owned);
+    const int count = sqlite3_column_count(statement);
+    // A write waits until the open cursors have read what they were opened on.
+    if (!sqlite3_stmt_readonly(statement) || count == 0) SettleCursors();
     for (size_t i = 0; i < parameters.size(); ++i) {
         if (Bind(statement, static_cast<int>(i) + 1, parameters[i]) != SQLITE_OK) {
             RaiseEngineError();
         }
     }
-    const int count = sqlite3_column_count(statement);
-    if (columns) *columns = prepared.columns;
     std::vector<std::vector<FieldValue>> rows;
     int rc;
     while ((rc = sqlite3_step(statement)) == SQLITE_ROW) {

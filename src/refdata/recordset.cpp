@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <limits>
 
 #include "common/error.h"
 #include "common/text.h"
@@ -96,8 +97,21 @@ Recordset::Recordset(std::shared_ptr<detail::Connection> connection, const std::
     if (snapshot) Load();
 }
 
+bool Recordset::FetchTo(long index) const {
+    while (cursor_ && index >= static_cast<long>(rows_.size())) {
+        std::vector<FieldValue> values;
+        if (!cursor_->Next(values)) {
+            cursor_.reset();
+            break;
+        }
+        rows_.push_back(MakeRow(std::move(values)));
+    }
+    return index < static_cast<long>(rows_.size());
+}
+
 void Recordset::Close() noexcept {
     open_ = false;
+    cursor_.reset();
     connection_.reset();
     rows_.clear();
     pendingAdds_.clear();
@@ -137,6 +151,17 @@ Recordset::Row Recordset::MakeRow(std::vector<FieldValue> values) const {
 }
 
 void Recordset::Load() const {
+    cursor_.reset();
+    if (type_ == kSnapshot) {
+        // A snapshot's rows come as they are read: a lookup of one row reads one row.
+        rows_.clear();
+        cursor_ = connection_->OpenCursor(loadSql_, loadParameters_);
+        FetchTo(0);
+        loaded_ = true;
+        position_ = 0;
+        onDeleted_ = false;
+        return;
+    }
     auto result = connection_->Query(loadSql_, loadParameters_);
     rows_.clear();
     rows_.reserve(result.size() + pendingAdds_.size());
@@ -167,6 +192,7 @@ bool Recordset::Bof() const {
 
 bool Recordset::Eof() const {
     EnsureLoaded();
+    FetchTo(position_);
     return rows_.empty() || position_ >= static_cast<long>(rows_.size());
 }
 
@@ -223,6 +249,7 @@ void Recordset::MoveFirst() {
 
 void Recordset::MoveLast() {
     EnsureLoaded();
+    FetchTo(std::numeric_limits<long>::max());
     if (rows_.empty()) Raise(kErrNoCurrentRecord);
     EndEdit();
     position_ = static_cast<long>(rows_.size()) - 1;
@@ -251,6 +278,7 @@ RecordBookmark Recordset::Bookmark() const {
 
 void Recordset::SetBookmark(RecordBookmark bookmark) {
     EnsureLoaded();
+    FetchTo(std::numeric_limits<long>::max());
     for (size_t i = 0; i < rows_.size(); ++i) {
         if (rows_[i].bookmark == bookmark) {
             EndEdit();
@@ -275,6 +303,7 @@ int Recordset::AbsolutePosition() const {
 
 void Recordset::SetAbsolutePosition(int position) {
     EnsureLoaded();
+    FetchTo(position);
     if (position < 0 || position >= static_cast<int>(rows_.size())) {
         Raise(kErrInvalidArgument, "Invalid argument.");
     }
@@ -285,6 +314,7 @@ void Recordset::SetAbsolutePosition(int position) {
 
 int Recordset::RecordCount() const {
     EnsureLoaded();
+    FetchTo(std::numeric_limits<long>::max());
     return static_cast<int>(rows_.size());
 }
 

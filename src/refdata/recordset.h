@@ -19,6 +19,7 @@ namespace tarvex {
 
 namespace detail {
 class Connection;
+class Cursor;
 enum class ObjectKind;
 }  // namespace detail
 
@@ -131,6 +132,9 @@ class Recordset {
     void RequireUpdatable() const;
     void EnsureLoaded() const;
     void Load() const;
+    // Takes rows from the cursor of a snapshot until row `index` is there or the rows end;
+    // whether it is there.
+    bool FetchTo(long index) const;
     Row MakeRow(std::vector<FieldValue> values) const;
     int IndexOf(const std::string& name) const;
     const Row& CurrentRow() const;
@@ -159,6 +163,7 @@ class Recordset {
 
     mutable bool loaded_ = false;
     mutable std::vector<Row> rows_;
+    mutable std::shared_ptr<detail::Cursor> cursor_;  // the rows of a snapshot not yet taken
     mutable long position_ = 0;       // -1 before the first row, rows_.size() after the last
     mutable bool onDeleted_ = false;  // the current row was deleted
     mutable RecordBookmark nextBookmark_ = 1;

@@ -3,6 +3,7 @@
 #include <cctype>
 #include <cerrno>
 #include <charconv>
+#include <cstdint>
 
 #include "refdata/sql_tokens.h"
 
@@ -39,6 +40,33 @@ bool NumberValue(std::string_view token, bool negative, FieldValue& out) {
         if (end != last) return false;
         if (error == std::errc() && magnitude <= 9223372036854775807ULL) {
             const long long value = static_cast<long long>(magnitude);
+            out = FieldValue(negative ? -value : value);
+            return true;
+        }
+    }
+    // The usual decimal, digits with a point and no exponent: both parts are exact doubles
+    // and one division rounds correctly, as the full parse would.
+    if (token.find_first_of("eE") == std::string_view::npos && token.size() <= 16) {
+        std::uint64_t mantissa = 0;
+        int decimals = -1;
+        bool plain = true;
+        for (const char c : token) {
+            if (c == '.') {
+                if (decimals >= 0) plain = false;
+                decimals = 0;
+                continue;
+            }
+            if (c < '0' || c > '9') {
+                plain = false;
+                break;
+            }
+            mantissa = mantissa * 10 + static_cast<std::uint64_t>(c - '0');
+            if (decimals >= 0) ++decimals;
+        }
+        if (plain && decimals >= 0 && mantissa < (std::uint64_t{1} << 53)) {
+            static constexpr double kPowers[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                                 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+            const double value = static_cast<double>(mantissa) / kPowers[decimals];
             out = FieldValue(negative ? -value : value);
             return true;
         }
