@@ -43,6 +43,19 @@ int RunExport(const CommonOptions& options, const std::string& in, std::ostream&
 int RunDiff(const CommonOptions& options, const std::string& in, std::ostream& cout,
             std::ostream& cerr);
 
+// What play is told besides the common options.
+struct PlayOptions {
+    std::string scenario;
+    std::vector<std::string> missions;
+    // Work on the database itself rather than a scratch copy of it.
+    bool writeDatabase = false;
+};
+
+// Runs a scenario on a fresh headless editor, once, or once per mission with $MISSION set:
+// "OK" or the line where it stopped, with what differed on `cerr`.
+int RunPlay(const CommonOptions& options, const PlayOptions& play, std::ostream& cout,
+            std::ostream& cerr);
+
 // Prints what IN holds, as text or JSON, on a scratch copy of the database.
 int RunInfo(const CommonOptions& options, const std::string& in, bool json, std::ostream& cout,
             std::ostream& cerr);

@@ -83,6 +83,19 @@ int main(int argc, char** argv) {
     info->add_flag("--json", json, "Print JSON");
     AddCommonOptions(info, options);
 
+    tarvex::cli::PlayOptions play;
+    CLI::App* playCommand = app.add_subcommand(
+        "play",
+        "Run SCENARIO, a text file of the designer's actions and expectations, on a fresh "
+        "editor without a window and on a copy of the database; with missions named, once "
+        "for each, as $MISSION. Exit 0 when every line ran and held; 1 with the line that "
+        "did not.");
+    playCommand->add_option("SCENARIO", play.scenario, "Scenario file")->required();
+    playCommand->add_option("MISSION", play.missions, "Missions to run it on, one run each");
+    playCommand->add_flag("--write-db", play.writeDatabase,
+                          "Change the database itself, not a copy of it");
+    AddCommonOptions(playCommand, options);
+
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& e) {
@@ -96,6 +109,7 @@ int main(int argc, char** argv) {
         if (*check) return tarvex::cli::RunCheck(options, files, std::cout, std::cerr);
         if (*exportCommand) return tarvex::cli::RunExport(options, in, std::cout, std::cerr);
         if (*diff) return tarvex::cli::RunDiff(options, in, std::cout, std::cerr);
+        if (*playCommand) return tarvex::cli::RunPlay(options, play, std::cout, std::cerr);
         return tarvex::cli::RunInfo(options, in, json, std::cout, std::cerr);
     } catch (const std::exception& e) {
         // The commands report what they expect; this is for what nobody did.

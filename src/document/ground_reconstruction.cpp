@@ -6,6 +6,8 @@
 #include "common/numbers.h"
 #include "common/text.h"
 #include "document/coord_text.h"
+#include "ground/layout_markers.h"
+#include "ground/mission_layouts.h"
 #include "maps/map_loading.h"
 #include "refdata/lookup.h"
 #include "refdata/sql_translation.h"
@@ -21,30 +23,6 @@ namespace {
 constexpr double kKmPerMinute = 1.8236;
 // Statute miles to kilometres, as the distance unit switch counts them.
 constexpr double kKmPerMile = 1.6093636;
-
-// Places a found layout as a new row of the mission: row, origin, marker position, count.
-// TODO: AddLayoutToMission (with its marker drawing) once the ground tab has it.
-void AddLoadedLayout(Editor& ed, const std::string& text, float x, float y, int number,
-                     std::int32_t itemData) {
-    auto& frm = ed.FrmMission;
-    Mission& doc = ed.doc;
-    const int row = number - 1;
-    std::string lat = ed.projection.CursorLatText;
-    std::string lon = ed.projection.CursorLonText;
-    NormalizeCoordText(lat, "00.0000");
-    NormalizeCoordText(lon, "00.0000");
-    // The arrays are checked before the row is added, so a layout beyond the bound fails
-    // without leaving a row behind.
-    doc.GULon(row) = lon;
-    doc.GULat(row) = lat;
-    doc.GUMapX(row) = x;
-    doc.GUMapY(row) = y;
-    frm.lstGUAdded.AddItem(text);
-    frm.lstGUAdded.SetItemData(frm.lstGUAdded.NewIndex(), itemData);
-    doc.GUCount = static_cast<std::uint8_t>(doc.GUCount + 1);
-    frm.lstGUAdded.SetListIndex(frm.lstGUAdded.NewIndex());
-    frm.lstGUAdded.SetEnabled(true);
-}
 
 // The units filed under the pending record go to the database only when the record becomes
 // a layout of its own: a layout the database knows already deletes the record with them,
@@ -155,7 +133,8 @@ void Match(Editor& ed, std::int16_t unitId, std::int32_t& unitSum, bool deletePe
     float y = 0;
     PlotPoint(ed, proj.CursorLatText, proj.CursorLonText, x, y);
 
-    AddLoadedLayout(ed, Format(number, "##00") + ". " + layoutName, x, y, number, layoutId);
+    AddLayoutToMission(ed, Format(number, "##00") + ". " + layoutName, x, y, number,
+                       kLandscapeMarkerFill, layoutId);
     doc.GUPoints(number - 1) = st.LayoutHasPoints ? 1 : 0;
     st.LayoutHasPoints = false;
     if (depth > 0 && layoutId == st.PendingLayoutID)

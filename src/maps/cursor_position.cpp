@@ -25,9 +25,4 @@ void mapWayPoints_MouseMove(Editor& ed, int, int, float x, float y) {
     ShowCursorPosition(ed, x, y, "##00.00");
 }
 
-void mapGroundUnits_MouseMove(Editor& ed, int, int, float x, float y) {
-    if (ed.FrmMission.mapGroundUnits.Tag() == "True") return;
-    ShowCursorPosition(ed, x, y, "##00.0000");
-}
-
 }  // namespace tarvex

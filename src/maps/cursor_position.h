@@ -12,10 +12,7 @@ class Editor;
 // and the length of that path as the last DrawPaths summed it.
 void ShowCursorPosition(Editor& ed, float x, float y, std::string_view minutesFormat);
 
-// The pointer over the two maps. On the Ground units map the layout editor reads the pointer
-// as offsets ("True" in the map's tag), so the read-out there is for placing only, with
-// minutes to the precision of a layout's origin.
+// The pointer over the Waypoints map.
 void mapWayPoints_MouseMove(Editor& ed, int button, int shift, float x, float y);
-void mapGroundUnits_MouseMove(Editor& ed, int button, int shift, float x, float y);
 
 }  // namespace tarvex

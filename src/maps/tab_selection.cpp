@@ -1,6 +1,7 @@
 #include "maps/tab_selection.h"
 
 #include "document/mission_reset.h"
+#include "ground/layout_edit_mode.h"
 #include "ground/layout_markers.h"
 #include "maps/map_loading.h"
 #include "maps/path_drawing.h"
@@ -71,8 +72,7 @@ void SelectTab(Editor& ed, int tab) {
     ShowStatus(ed, "");
     SetTabMenuChecked(ed, ed.drawing.ShownTab, false);
     SetEditMenusEnabled(ed, false);
-    // TODO: close the offsets window when it is open, and leave the layout editor
-    // (SetLayoutEditMode(false)), once those exist: any change of tab ends the editing.
+    LeaveLayoutEditor(ed);
 
     switch (tab) {
         case kSummaryTab:

@@ -14,7 +14,6 @@ void WireMaps(Editor& ed) {
     auto& frm = ed.FrmMission;
     Wire(ed, frm.mapWayPoints.Paint, mapWayPoints_Paint);
     Wire(ed, frm.mapWayPoints.MouseMove, mapWayPoints_MouseMove);
-    Wire(ed, frm.mapGroundUnits.MouseMove, mapGroundUnits_MouseMove);
     WireEach(ed, frm.chkOverlay, &CheckBox::Click, chkOverlay_Click);
     Wire(ed, frm.cmbSelectMap.Click, cmbSelectMap_Click);
 }

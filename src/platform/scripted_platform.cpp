@@ -18,10 +18,14 @@ MsgAnswer ScriptedDialogs::MsgBox(const MessageBoxRequest& request) {
     messages.push_back(request);
     MsgAnswer answer;
     if (PopFront(msgAnswers, answer)) return answer;
+    unanswered.push_back({"message box", request.title, request.text});
     switch (request.buttons) {
         case MsgButtons::YesNo:
+            return declineUnanswered ? MsgAnswer::No : MsgAnswer::Yes;
         case MsgButtons::YesNoCancel:
-            return MsgAnswer::Yes;
+            return declineUnanswered ? MsgAnswer::Cancel : MsgAnswer::Yes;
+        case MsgButtons::OKCancel:
+            return declineUnanswered ? MsgAnswer::Cancel : MsgAnswer::OK;
         default:
             return MsgAnswer::OK;
     }
@@ -31,21 +35,37 @@ std::string ScriptedDialogs::InputBox(const InputBoxRequest& request) {
     inputs.push_back(request);
     std::string text;
     if (PopFront(inputAnswers, text)) return text;
-    return request.preset;
+    unanswered.push_back({"input box", request.title, request.prompt});
+    return declineUnanswered ? std::string() : request.preset;
 }
 
 FileDialogResult ScriptedDialogs::ShowOpen(const FileDialogRequest& request) {
     opens.push_back(request);
     FileDialogResult result;
-    PopFront(openAnswers, result);
+    if (!PopFront(openAnswers, result) && !PopFront(fileAnswers, result))
+        unanswered.push_back({"open dialog", request.title, {}});
     return result;
 }
 
 FileDialogResult ScriptedDialogs::ShowSave(const FileDialogRequest& request) {
     saves.push_back(request);
     FileDialogResult result;
-    PopFront(saveAnswers, result);
+    if (!PopFront(saveAnswers, result) && !PopFront(fileAnswers, result))
+        unanswered.push_back({"save dialog", request.title, {}});
     return result;
+}
+
+bool ScriptedDialogs::AnswersQueued() const {
+    return !msgAnswers.empty() || !inputAnswers.empty() || !openAnswers.empty() ||
+           !saveAnswers.empty() || !fileAnswers.empty();
+}
+
+void ScriptedDialogs::ClearAnswers() {
+    msgAnswers.clear();
+    inputAnswers.clear();
+    openAnswers.clear();
+    saveAnswers.clear();
+    fileAnswers.clear();
 }
 
 void ScriptedDialogs::ClearRecord() {
@@ -53,6 +73,7 @@ void ScriptedDialogs::ClearRecord() {
     inputs.clear();
     opens.clear();
     saves.clear();
+    unanswered.clear();
 }
 
 FileDialogResult ScriptedDialogs::Chosen(const std::string& path) {

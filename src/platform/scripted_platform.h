@@ -16,7 +16,8 @@ namespace tarvex {
 
 // Dialogs answered from queues. When a queue is empty the box takes its desktop default:
 // a message box answers its first button (OK, or Yes), an input box answers its preset text
-// unchanged (the user pressed OK without typing), and a file dialog is cancelled.
+// unchanged (the user pressed OK without typing), and a file dialog is cancelled. Either way
+// the box is entered in `unanswered`, so that a script can tell a box it did not foresee.
 class ScriptedDialogs : public Dialogs {
   public:
     MsgAnswer MsgBox(const MessageBoxRequest& request) override;
@@ -32,6 +33,12 @@ class ScriptedDialogs : public Dialogs {
     void QueueOpenCancel() { openAnswers.push_back(FileDialogResult{}); }
     void QueueSave(const std::string& path) { saveAnswers.push_back(Chosen(path)); }
     void QueueSaveCancel() { saveAnswers.push_back(FileDialogResult{}); }
+    // For whichever file dialog comes next, open or save, once its own queue is empty.
+    void QueueFile(const std::string& path) { fileAnswers.push_back(Chosen(path)); }
+    void QueueFileCancel() { fileAnswers.push_back(FileDialogResult{}); }
+    // Whether any answer of any kind is still waiting.
+    bool AnswersQueued() const;
+    void ClearAnswers();
 
     // The text of the last message box shown; empty when none was.
     std::string LastMessage() const {
@@ -45,12 +52,25 @@ class ScriptedDialogs : public Dialogs {
     std::deque<std::string> inputAnswers;
     std::deque<FileDialogResult> openAnswers;
     std::deque<FileDialogResult> saveAnswers;
+    std::deque<FileDialogResult> fileAnswers;
 
     // Every box shown, in order.
     std::vector<MessageBoxRequest> messages;
     std::vector<InputBoxRequest> inputs;
     std::vector<FileDialogRequest> opens;
     std::vector<FileDialogRequest> saves;
+
+    // Every box that found no answer waiting, in order.
+    struct Unanswered {
+        std::string kind;  // "message box", "input box", "open dialog", "save dialog"
+        std::string title;
+        std::string text;  // the message, the prompt; empty for a file dialog
+    };
+    std::vector<Unanswered> unanswered;
+    // Such a box declines instead of taking its default: a message box answers Cancel where
+    // it has it, else No, else OK; an input box and a file dialog are cancelled. A script that
+    // did not foresee a question then changes nothing by it.
+    bool declineUnanswered = false;
 };
 
 // Loads succeed with increasing handles unless the path is listed in `missing`.

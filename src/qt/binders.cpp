@@ -21,6 +21,8 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollArea>
+#include <QSpinBox>
 #include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -206,22 +208,70 @@ void ControlBinding::Sync(Aspect aspect) {
     }
 }
 
+namespace {
+
+const char* const kScrolledViewProperty = "tarvexScrolledView";
+const char* const kPlaceSizeProperty = "tarvexPlaceSize";
+
+QScrollArea* ScrolledViewOf(const QWidget* control) {
+    return qobject_cast<QScrollArea*>(control->property(kScrolledViewProperty).value<QObject*>());
+}
+
+// The rank of a widget among its siblings: its control's, or for a scrolled view the rank of the
+// control it shows. Widgets of the skin's own have none and stay below.
+bool RankOf(QWidget* widget, long& rank) {
+    ControlBinding* binding = ControlBinding::Of(widget);
+    if (!binding && widget) {
+        const auto* view = qobject_cast<QScrollArea*>(widget);
+        if (view && view->widget()) {
+            for (QObject* child : view->widget()->children())
+                if ((binding = ControlBinding::Of(qobject_cast<QWidget*>(child)))) break;
+        }
+    }
+    if (!binding) return false;
+    rank = binding->Model().ZRank();
+    return true;
+}
+
+// Siblings lie in the order of their ranks; equal ranks keep the order of creation.
+void StackByRank(QWidget* parent) {
+    if (!parent) return;
+    std::vector<std::pair<long, QWidget*>> ranked;
+    for (QObject* child : parent->children()) {
+        auto* sibling = qobject_cast<QWidget*>(child);
+        long rank = 0;
+        if (sibling && RankOf(sibling, rank)) ranked.emplace_back(rank, sibling);
+    }
+    std::stable_sort(ranked.begin(), ranked.end(),
+                     [](const auto& a, const auto& b) { return a.first < b.first; });
+    for (auto& [rank, sibling] : ranked)
+        sibling->raise();
+}
+
+}  // namespace
+
+void ShowThroughScrolledView(QWidget* control, QScrollArea* view, QSize placeSize) {
+    control->setProperty(kScrolledViewProperty, QVariant::fromValue(static_cast<QObject*>(view)));
+    view->setProperty(kPlaceSizeProperty, placeSize);
+}
+
 void ControlBinding::SyncGeometry() {
     const int w = std::max(0, Px(model_.Width()));
     const int h = std::max(0, Px(model_.Height()));
     widget_->setGeometry(Px(model_.Left() - origin_.x()), Px(model_.Top() - origin_.y()), w, h);
-    // Siblings lie in the order of their ranks; equal ranks keep the order of creation.
-    if (QWidget* parent = widget_->parentWidget()) {
-        std::vector<std::pair<long, QWidget*>> ranked;
-        for (QObject* child : parent->children()) {
-            auto* sibling = qobject_cast<QWidget*>(child);
-            if (ControlBinding* binding = Of(sibling))
-                ranked.emplace_back(binding->Model().ZRank(), sibling);
+    StackByRank(widget_->parentWidget());
+    // A control brought to the front shows whole, as far as there is room, over its
+    // neighbours; otherwise it is seen through its view at the view's own place.
+    if (QScrollArea* view = ScrolledViewOf(widget_)) {
+        QSize size = view->property(kPlaceSizeProperty).toSize();
+        QWidget* parent = view->parentWidget();
+        if (model_.ZRank() > 0 && parent && parent->width() > 0) {
+            const int frame = 2 * view->frameWidth();
+            size = size.expandedTo(QSize(w + frame, h + frame))
+                       .boundedTo(parent->size() - QSize(view->x(), view->y()));
         }
-        std::stable_sort(ranked.begin(), ranked.end(),
-                         [](const auto& a, const auto& b) { return a.first < b.first; });
-        for (auto& [rank, sibling] : ranked)
-            sibling->raise();
+        view->resize(size);
+        StackByRank(parent);
     }
 }
 
@@ -238,13 +288,17 @@ void ControlBinding::SyncAppearance() {
     for (QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(role, ownFore ? ToQColor(model_.ForeColor()) : defaults.color(role));
     widget_->setPalette(palette);
-    widget_->setAutoFillBackground(ownBack);
+    // A control laid over others hides what lies under it.
+    widget_->setAutoFillBackground(ownBack || model_.Where().IsOverlay());
     switch (model_.MousePointer()) {
         case 2:
             widget_->setCursor(Qt::CrossCursor);
             break;
         case 11:
             widget_->setCursor(Qt::WaitCursor);
+            break;
+        case 15:
+            widget_->setCursor(Qt::SizeAllCursor);
             break;
         case 0:
             widget_->unsetCursor();
@@ -748,6 +802,38 @@ class UpDownBinding : public ControlBinding {
     UpDown& model_;
 };
 
+// A spinner that shows its value, which can also be typed; a typed value counts once it is
+// entered.
+class SpinBoxBinding : public ControlBinding {
+  public:
+    SpinBoxBinding(UpDown& model, QSpinBox* box, QPointF origin)
+        : ControlBinding(model, box, origin), model_(model), box_(box) {
+        box->setKeyboardTracking(false);
+        if (QLineEdit* edit = box->findChild<QLineEdit*>()) WatchChild(edit);
+        connect(box, &QSpinBox::valueChanged, this, [this](int value) {
+            if (Syncing()) return;
+            Guarded([&] { model_.SetValue(value); });
+            // The handler may have moved the value on.
+            SyncAll();
+        });
+    }
+
+  protected:
+    void Sync(Aspect aspect) override {
+        if (aspect == Aspect::Value) {
+            box_->setRange(std::min(model_.Min(), model_.Max()),
+                           std::max(model_.Min(), model_.Max()));
+            box_->setSingleStep(model_.Increment());
+            box_->setValue(model_.Value());
+        }
+        ControlBinding::Sync(aspect);
+    }
+
+  private:
+    UpDown& model_;
+    QSpinBox* box_;
+};
+
 // A line drawn over its container, in the container's map units.
 class LineWidget : public QWidget {
   public:
@@ -833,7 +919,10 @@ QWidget* CreateControlWidget(Control& control, QWidget* parent, QPointF origin) 
     } else if (auto* label = dynamic_cast<Label*>(&control)) {
         binding = new LabelBinding(*label, new QLabel(parent), origin);
     } else if (auto* spin = dynamic_cast<UpDown*>(&control)) {
-        binding = new UpDownBinding(*spin, new UpDownWidget(parent), origin);
+        if (spin->ShowValue())
+            binding = new SpinBoxBinding(*spin, new QSpinBox(parent), origin);
+        else
+            binding = new UpDownBinding(*spin, new UpDownWidget(parent), origin);
     } else if (auto* line = dynamic_cast<LineControl*>(&control)) {
         binding = new LineBinding(*line, new LineWidget(*line, parent), origin);
     } else {

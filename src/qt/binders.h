@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QPointF>
 #include <QPointer>
+#include <QSize>
 #include <QString>
 #include <QWidget>
 #include <functional>
@@ -14,6 +15,7 @@
 #include "shell/controls/data_grid.h"
 
 class QMenuBar;
+class QScrollArea;
 class QTimer;
 
 namespace tarvex::qt {
@@ -81,6 +83,10 @@ class ControlBinding : public QObject {
 // tab strips and the rest each get their kind of widget; nullptr for models that are not
 // shown (data sources).
 QWidget* CreateControlWidget(Control& control, QWidget* parent, QPointF origin);
+
+// The control is seen through a scrolled view placed at placeSize (pixels): the view follows the
+// control's rank among the view's siblings, and shows the control whole while it is in front.
+void ShowThroughScrolledView(QWidget* control, QScrollArea* view, QSize placeSize);
 
 // A real timer behind a timer model: it runs while the model runs and fires the model's event.
 QTimer* BindTimer(TimerControl& timer, QObject* owner);

@@ -21,32 +21,17 @@
 
 namespace tarvex::qt {
 
-namespace {
-
-// The status strip's height in map units.
-constexpr float kStripHeight = 330;
-
-}  // namespace
-
 EditorWindow::EditorWindow(Editor& ed) : ed_(ed) {
-    auto& frame = ed.MDIMissionED;
-    auto& mission = ed.FrmMission;
-    // The frame is as wide as the mission window it holds.
-    if (frame.Width() == 0) frame.SetWidth(mission.Width() + 120);
-    BuildMenuBar(menuBar(), frame.MenuBar());
-
-    FormLayout frameLayout;
-    frameLayout.places.push_back({"Picture1", -1, "", 0, 0, frame.Width(), kStripHeight});
-    main_ = new FormView(frame, frameLayout, this, FormView::Mode::Central);
+    BuildMenuBar(menuBar(), ed.MDIMissionED.MenuBar());
+    main_ = new FormView(ed.MDIMissionED, this, FormView::Mode::Central);
     setCentralWidget(main_);
-    mission_ = new FormView(mission, MissionFormLayout(mission), main_, FormView::Mode::Child);
+    mission_ = new FormView(ed.FrmMission, main_, FormView::Mode::Child);
     main_->installEventFilter(this);
 
     Form* others[] = {&ed.frmNewRecord,   &ed.frmAircraft,  &ed.frmGrndNames, &ed.frmGUOffsets,
                       &ed.frmtblMissions, &ed.frmMsgScreen, &ed.frmSplash,    &ed.frmAbout};
     for (Form* form : others)
-        windows_.push_back(
-            std::make_unique<FormView>(*form, FlowLayout(*form), nullptr, FormView::Mode::Window));
+        windows_.push_back(std::make_unique<FormView>(*form, nullptr, FormView::Mode::Window));
     PlaceStatusStrip();
 }
 
@@ -62,11 +47,12 @@ FormView* EditorWindow::FormWindow(const std::string& formName) const {
 }
 
 void EditorWindow::PlaceStatusStrip() {
-    // The strip keeps to the bottom edge and the full width, as a bottom-aligned picture does.
+    // The strip keeps its height at the bottom edge over the full width, as a bottom-aligned
+    // picture does.
     PictureSurface& strip = ed_.MDIMissionED.Picture1;
     const float width = Twips(main_->width());
-    const float top = Twips(main_->height()) - kStripHeight;
-    Guarded([&] { strip.Move(0, std::max(0.0f, top), width, kStripHeight); });
+    const float top = Twips(main_->height()) - strip.Height();
+    Guarded([&] { strip.Move(0, std::max(0.0f, top), width, strip.Height()); });
 }
 
 bool EditorWindow::eventFilter(QObject* watched, QEvent* event) {

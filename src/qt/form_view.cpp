@@ -1,114 +1,93 @@
 #include "qt/form_view.h"
 
 #include <QCloseEvent>
-#include <QLabel>
 #include <QScrollArea>
-#include <QTimer>
-#include <sstream>
 
 #include "qt/binders.h"
 
 namespace tarvex::qt {
 
-namespace {
-
-std::set<int> PagesOf(const std::string& container) {
-    std::set<int> pages;
-    std::stringstream list(container.substr(container.find(':') + 1));
-    std::string item;
-    while (std::getline(list, item, ','))
-        pages.insert(std::stoi(item));
-    return pages;
-}
-
-}  // namespace
-
-FormView::FormView(Form& form, const FormLayout& layout, QWidget* parent, Mode mode)
+FormView::FormView(Form& form, QWidget* parent, Mode mode)
     : QWidget(parent), form_(form), mode_(mode) {
     if (mode == Mode::Window) setWindowFlag(Qt::Window);
     setObjectName(QString::fromStdString(form.Name()));
-    ApplyLayout(form, layout);
     sharedHome_ = new QWidget(this);
     sharedHome_->hide();
 
-    // Containers come before what they hold: create in rounds until nothing is left.
-    std::vector<Control*> pending = form.Controls();
-    for (int round = 0; round < 4 && !pending.empty(); ++round) {
-        std::vector<Control*> later;
-        for (Control* control : pending) {
-            const Placement* place = layout.Find(control->Name(), control->Index());
-            const std::string container = place ? place->container : "";
-            QPointF origin;
-            QWidget* parentWidget = ContainerOf(container, origin);
-            if (!parentWidget) {
-                later.push_back(control);
-                continue;
-            }
-            if (place && place->scrolled)
-                parentWidget = ScrolledHolder(*place, parentWidget, origin);
-            QWidget* widget = CreateControlWidget(*control, parentWidget, origin);
-            if (!widget) continue;
-            if (holders_.count(parentWidget)) {
-                widget->installEventFilter(this);
-                parentWidget->resize(widget->geometry().bottomRight().x() + 1,
-                                     widget->geometry().bottomRight().y() + 1);
-            }
-            widgets_[{control->Name(), control->Index()}] = widget;
-            if (container.rfind("pages:", 0) == 0) shared_.push_back({widget, PagesOf(container)});
-        }
-        pending.swap(later);
-    }
-    for (const StaticText& text : layout.texts) {
+    // A form enters each container before what it holds, so one pass in the order of the
+    // register finds every container's widget made.
+    for (Control* control : form.Controls()) {
+        const Container& where = control->Where();
         QPointF origin;
-        QWidget* parentWidget = ContainerOf(text.container, origin);
-        if (!parentWidget) continue;
-        auto* label = new QLabel(QString::fromStdString(text.text), parentWidget);
-        label->setGeometry(Px(text.left - origin.x()), Px(text.top - origin.y()), Px(text.width),
-                           Px(225));
-        label->lower();
+        QWidget* parentWidget = HolderOf(where, origin);
+        if (!parentWidget) {
+            qWarning("tarvex: %s.%s lies in a container without a widget", form.Name().c_str(),
+                     control->Name().c_str());
+            continue;
+        }
+        QScrollArea* view = nullptr;
+        if (where.IsScrolled()) {
+            view = ScrolledView(*control, parentWidget, origin);
+            parentWidget = view->widget();
+        }
+        QWidget* widget = CreateControlWidget(*control, parentWidget, origin);
+        if (!widget) continue;
+        if (view) ShowThroughScrolledView(widget, view, view->size());
+        if (holders_.count(parentWidget)) {
+            widget->installEventFilter(this);
+            parentWidget->resize(widget->geometry().bottomRight().x() + 1,
+                                 widget->geometry().bottomRight().y() + 1);
+        }
+        widgets_[control] = widget;
+        if (where.PageList().size() > 1) shared_.push_back({widget, where});
+        if (auto* strip = dynamic_cast<TabControl*>(control)) {
+            strips_.push_back(strip);
+            stripListeners_.push_back(strip->AddListener([this](Aspect aspect) {
+                if (aspect == Aspect::Value) PlaceShared();
+            }));
+        }
     }
     // Start the timers of the form with the window.
     for (Component* component : form.Components())
         if (auto* timer = dynamic_cast<TimerControl*>(component)) BindTimer(*timer, this);
 
-    if (QWidget* strip = WidgetOf("SSTab1")) {
-        tabs_ = dynamic_cast<TabControl*>(form.FindControl("SSTab1"));
-        (void)strip;
-        if (tabs_)
-            tabsListener_ = tabs_->AddListener([this](Aspect aspect) {
-                if (aspect == Aspect::Value) PlaceShared();
-            });
-        PlaceShared();
-    }
+    PlaceShared();
     formListener_ = form.AddListener([this](Aspect) { SyncForm(); });
     SyncForm();
 }
 
 FormView::~FormView() {
-    if (tabs_) tabs_->RemoveListener(tabsListener_);
+    for (size_t k = 0; k < strips_.size(); ++k)
+        strips_[k]->RemoveListener(stripListeners_[k]);
     form_.RemoveListener(formListener_);
 }
 
-QWidget* FormView::WidgetOf(const std::string& name, int index) const {
-    auto it = widgets_.find({name, index});
+QWidget* FormView::WidgetOf(const Control& control) const {
+    auto it = widgets_.find(&control);
     return it == widgets_.end() ? nullptr : it->second;
 }
 
-QWidget* FormView::ScrolledHolder(const Placement& place, QWidget* parent, QPointF& origin) {
+QWidget* FormView::WidgetOf(const std::string& name, int index) const {
+    const Control* control = form_.FindControl(name, index);
+    return control ? WidgetOf(*control) : nullptr;
+}
+
+QScrollArea* FormView::ScrolledView(const Control& control, QWidget* parent, QPointF& origin) {
+    const Place& view = control.Home();
     auto* area = new QScrollArea(parent);
-    area->setObjectName(QString::fromStdString(place.name) + "View");
+    area->setObjectName(QString::fromStdString(control.Name()) + "View");
     area->setFrameShape(QFrame::StyledPanel);
-    area->setGeometry(Px(place.left - origin.x()), Px(place.top - origin.y()), Px(place.width),
-                      Px(place.height));
-    // The holder grows with the control inside; the control's own place is the holder's
-    // top left corner.
+    area->setGeometry(Px(view.left - origin.x()), Px(view.top - origin.y()), Px(view.width),
+                      Px(view.height));
+    // The holder grows with the control inside; the control's home is the holder's top left
+    // corner.
     auto* holder = new QWidget;
     holder->resize(area->viewport()->size());
     area->setWidget(holder);
     area->setWidgetResizable(false);
-    origin = QPointF(place.left, place.top);
+    origin = QPointF(view.left, view.top);
     holders_.insert(holder);
-    return holder;
+    return area;
 }
 
 bool FormView::eventFilter(QObject* watched, QEvent* event) {
@@ -124,26 +103,26 @@ bool FormView::eventFilter(QObject* watched, QEvent* event) {
     return false;
 }
 
-QWidget* FormView::ContainerOf(const std::string& container, QPointF& origin) {
+QWidget* FormView::HolderOf(const Container& where, QPointF& origin) {
     origin = QPointF(0, 0);
-    if (container.empty()) return this;
-    if (container.rfind("page", 0) == 0) {
-        QWidget* strip = WidgetOf("SSTab1");
-        auto* tabs = dynamic_cast<TabControl*>(form_.FindControl("SSTab1"));
-        if (!strip || !tabs) return nullptr;
-        // Page coordinates are the strip's, whose top TabHeight is the header.
-        origin = QPointF(0, tabs->TabHeight());
-        if (container.rfind("pages:", 0) == 0) return sharedHome_;
-        return TabPage(strip, std::stoi(container.substr(5)));
-    }
-    return WidgetOf(container);
+    if (!where.Holder() || where.Holder() == &form_) return this;
+    QWidget* holder = WidgetOf(*where.Holder());
+    if (!holder || !where.HasPages()) return holder;
+    // Page coordinates are the strip's, whose top TabHeight is the header.
+    const auto* strip = dynamic_cast<const TabControl*>(where.Holder());
+    if (!strip) return nullptr;
+    origin = QPointF(0, strip->TabHeight());
+    const std::vector<int> pages = where.PageList();
+    return pages.size() == 1 ? TabPage(holder, pages.front()) : sharedHome_;
 }
 
 void FormView::PlaceShared() {
-    if (!tabs_) return;
-    QWidget* strip = WidgetOf("SSTab1");
     for (Shared& shared : shared_) {
-        QWidget* target = shared.pages.count(tabs_->Tab()) ? TabPage(strip, tabs_->Tab()) : nullptr;
+        const auto* strip = dynamic_cast<const TabControl*>(shared.where.Holder());
+        QWidget* stripWidget = strip ? WidgetOf(*strip) : nullptr;
+        QWidget* target = nullptr;
+        if (stripWidget && shared.where.OnPage(strip->Tab()))
+            target = TabPage(stripWidget, strip->Tab());
         if (!target) target = sharedHome_;
         if (shared.widget->parentWidget() != target) shared.widget->setParent(target);
         if (ControlBinding* binding = ControlBinding::Of(shared.widget)) binding->SyncAll();
@@ -161,16 +140,7 @@ void FormView::SyncForm() {
     QWidget* top = window();
     top->setWindowTitle(QString::fromStdString(form_.Caption()));
     top->move(Px(form_.Left()), Px(form_.Top()));
-    if (form_.Width() > 0 && form_.Height() > 0)
-        top->resize(Px(form_.Width()), Px(form_.Height()));
-    else if (mode_ == Mode::Window) {
-        // Hidden children count too: the window opens with room for all of them.
-        QRect extent(0, 0, 320, 200);
-        for (QObject* child : children())
-            if (auto* widget = qobject_cast<QWidget*>(child); widget && widget != sharedHome_)
-                extent = extent.united(widget->geometry());
-        top->resize(extent.bottomRight().x() + 8, extent.bottomRight().y() + 8);
-    }
+    if (form_.Width() > 0 && form_.Height() > 0) top->resize(Px(form_.Width()), Px(form_.Height()));
     top->setEnabled(form_.Enabled());
     top->setVisible(form_.Visible());
 }

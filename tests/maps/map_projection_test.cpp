@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 #include "maps/map_catalogue.h"
 
 namespace tarvex {
@@ -99,6 +101,71 @@ TEST(MapProjectionTest, MapEastOfGreenwichSpansItsOwnBand) {
     EXPECT_NEAR(lon, 3.6f, 1e-4);
     projection.MapToDegrees(8000, 6000, lat, lon);
     EXPECT_NEAR(lon, 14.2833f, 1e-4);
+}
+
+// ---- Distances ----------------------------------------------------------------------
+
+TEST(GreatCircleTest, DistancesInBothUnits) {
+    MapProjection projection;
+    projection.SetDistanceUnits(false);
+    EXPECT_NEAR(projection.GreatCircleDistance(51, 0, 52, 0), 68.0f, 1e-3);
+    EXPECT_NEAR(projection.GreatCircleDistance(0, 0, 0, 180), 180 * 68.0f, 0.1f);  // no NaN
+    projection.SetDistanceUnits(true);
+    EXPECT_EQ(projection.DistanceFactor, static_cast<float>(1609.3636 / 1000));
+    EXPECT_NEAR(projection.GreatCircleDistance(51, 0, 52, 0), 109.44f, 5e-3);
+}
+
+TEST(GreatCircleTest, IdenticalPositionsAreZeroApart) {
+    MapProjection projection;
+    projection.SetDistanceUnits(true);
+    for (auto [lat, lon] :
+         {std::pair{0.0f, 0.0f}, {40.041096f, -1.7f}, {49.93333f, 1.6333f}, {89.9f, 123.4f}}) {
+        EXPECT_EQ(projection.GreatCircleDistance(lat, lon, lat, lon), 0.0f) << lat << " " << lon;
+    }
+}
+
+TEST(GreatCircleTest, DistanceFromPointTextReachesTheWorkingPosition) {
+    MapProjection projection;
+    projection.SetDistanceUnits(false);
+    projection.CurLat = 52;
+    projection.CurLon = -1.5f;
+    EXPECT_NEAR(projection.DistanceFromPoint("N51 00.00", "W01 30.00"), 68.0f, 1e-3);
+    EXPECT_EQ(projection.DistanceFromPoint("N5200.00", "W01 30.00"), 0.0f);  // unreadable
+}
+
+// ---- The pointer's read-out -----------------------------------------------------------
+
+// Map 0 is rectangular, so one scale holds at every latitude and x follows from the longitude.
+TEST(CursorReadoutTest, LongitudeTextKeepsItsSideNearGreenwich) {
+    MapProjection projection;
+    projection.SetMap(0, 8000, 6000);
+    projection.SetCursorPosition(0, 1234, "##00.00");
+    EXPECT_EQ(projection.CursorLonText, "W01 38.00");  // the left edge, 1.6333 west
+    const std::pair<float, const char*> cases[] = {
+        {0.5f, "E00 30.00"}, {-0.5f, "W00 30.00"}, {-0.01f, "W00 00.60"}, {1.25f, "E01 15.00"}};
+    for (auto [lon, text] : cases) {
+        const float x = (projection.MapLeftLon + lon) / projection.LonPerUnit;
+        projection.SetCursorPosition(x, 6000, "##00.00");
+        EXPECT_EQ(projection.CursorLonText, text) << lon;
+        EXPECT_EQ(projection.CursorLatText, "N49 56.00");
+    }
+}
+
+TEST(CursorReadoutTest, ReadoutDependsOnTabAndUnits) {
+    MapProjection projection;
+    projection.CursorLatText = "N50 00.00";
+    projection.CursorLonText = "W01 30.00";
+    projection.SetDistanceUnits(false);
+    EXPECT_EQ(projection.CursorReadout(2, 12.34f, 3, 109.44f),
+              "Lat: [N50 00.00] Lon: [W01 30.00] ");
+    EXPECT_EQ(projection.CursorReadout(3, 12.34f, 3, 109.44f),
+              "Lat: [N50 00.00] Lon: [W01 30.00]  Dist from Waypoint 3: [12.3 Mi.]  "
+              "Total Path Dist: [109.4 Mi.]");
+    projection.SetDistanceUnits(true);
+    const float distance = projection.GreatCircleDistance(51, 0, 52, 0);
+    EXPECT_EQ(projection.CursorReadout(0, distance, 1, 2 * distance),
+              "Lat: [N50 00.00] Lon: [W01 30.00]  Dist from Waypoint 1: [109.4 Km.]  "
+              "Total Path Dist: [218.9 Km.]");
 }
 
 }  // namespace

@@ -14,16 +14,20 @@
 #include <QMenuBar>
 #include <QProcess>
 #include <QRadioButton>
+#include <QScrollArea>
+#include <QSpinBox>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
 #include <vector>
 
 #include "platform/scripted_platform.h"
+#include "qt/binders.h"
 #include "qt/editor_session.h"
 #include "qt/editor_window.h"
 #include "qt/form_view.h"
 #include "qt/services.h"
+#include "shell/forms/frm_aircraft.h"
 #include "shell/forms/frm_mission.h"
 #include "shell/forms/mdi_mission_ed.h"
 #include "support/reference_folder.h"
@@ -257,6 +261,95 @@ TEST_F(SkinTest, SharedFramesFollowTheTabOnShow) {
             EXPECT_EQ(airfields->parentWidget(), tabs->widget(c.tab));
         }
     }
+}
+
+TEST_F(SkinTest, WidgetsStandWhereTheirModelsSay) {
+    auto& frm = session->ed().FrmMission;
+    auto& aircraft = session->ed().frmAircraft;
+    FormView& mission = session->window().MissionView();
+    FormView* records = session->window().FormWindow("frmAircraft");
+    ASSERT_NE(records, nullptr);
+    QWidget* strip = mission.WidgetOf(frm.SSTab1);
+    ASSERT_NE(strip, nullptr);
+    // Page coordinates count from the strip's top, headers included.
+    const float header = frm.SSTab1.TabHeight();
+    struct Case {
+        FormView* view;
+        Control* control;
+        QWidget* parent;
+        float originY;
+    };
+    const Case cases[] = {
+        {&mission, &frm.txtTitle, TabPage(strip, 0), header},
+        {&mission, &frm.chkSuspend, TabPage(strip, 1), header},
+        {&mission, &frm.lstStationary, mission.WidgetOf(frm.fraStationary), 0},
+        {&mission, &frm.optColor(15), mission.WidgetOf(frm.fraPathColor), 0},
+        {records, &aircraft.cmdClose, records->WidgetOf(aircraft.picButtons), 0},
+        {records, &aircraft.grdDataGrid, records, 0},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.control->Name());
+        QWidget* widget = c.view->WidgetOf(*c.control);
+        ASSERT_NE(widget, nullptr);
+        ASSERT_NE(c.parent, nullptr);
+        EXPECT_EQ(widget->parentWidget(), c.parent);
+        const Control& m = *c.control;
+        EXPECT_EQ(widget->geometry(),
+                  QRect(Px(m.Left()), Px(m.Top() - c.originY), Px(m.Width()), Px(m.Height())));
+    }
+    // A move by the program moves the widget.
+    frm.txtTitle.Move(1500, 600);
+    EXPECT_EQ(mission.WidgetOf(frm.txtTitle)->pos(), QPoint(Px(1500), Px(600 - header)));
+}
+
+// A double click on a layout of the mission opens the editor over the whole map, and its spin
+// boxes act on the layout.
+TEST_F(SkinTest, DoubleClickEntersTheLayoutEditorWhoseSpinBoxesReachTheModel) {
+    auto& frm = session->ed().FrmMission;
+    auto* tabs = qobject_cast<QTabWidget*>(Widget("SSTab1"));
+    ASSERT_NE(tabs, nullptr);
+    session->ShowTab(2);
+    QApplication::processEvents();
+    QWidget* map = Widget("mapGroundUnits");
+    ASSERT_NE(map, nullptr);
+    frm.lstGrnUnits.SetListIndex(frm.lstGrnUnits.FindRow("Army Camp"));
+    QTest::mouseMove(map, QPoint(100, 120));
+    QTest::mouseClick(map, Qt::LeftButton, {}, QPoint(100, 120));
+    ASSERT_EQ(frm.lstGUAdded.ListCount(), 1);
+
+    auto* list = qobject_cast<QListWidget*>(Widget("lstGUAdded"));
+    ASSERT_NE(list, nullptr);
+    QTest::mouseDClick(list->viewport(), Qt::LeftButton, {},
+                       list->visualItemRect(list->item(0)).center());
+    QApplication::processEvents();
+    EXPECT_EQ(frm.mapGroundUnits.Tag(), "True");
+    QWidget* controls = Widget("fraGUPos");
+    ASSERT_NE(controls, nullptr);
+    EXPECT_TRUE(controls->isVisibleTo(tabs));
+    // The map shows whole over the right-hand side of the tab.
+    auto* view = qobject_cast<QScrollArea*>(map->parentWidget()->parentWidget()->parentWidget());
+    ASSERT_NE(view, nullptr);
+    EXPECT_GE(view->width(), map->width());
+    EXPECT_GT(view->geometry().right(), Widget("lstGrnUnits")->geometry().right());
+
+    auto* spin = qobject_cast<QSpinBox*>(Widget("btnXPos"));
+    ASSERT_NE(spin, nullptr);
+    EXPECT_EQ(spin->minimum(), -272);
+    EXPECT_EQ(spin->maximum(), 272);
+    spin->setValue(40);
+    EXPECT_EQ(frm.btnXPos.Value(), 40);
+    EXPECT_FLOAT_EQ(session->ed().doc.GUShiftX(0), 0.4f);
+    // The model's own moves show: at 90 the fine turn goes back to 0.
+    auto* turn = qobject_cast<QSpinBox*>(Widget("btnRotate2"));
+    ASSERT_NE(turn, nullptr);
+    turn->setValue(90);
+    EXPECT_EQ(turn->value(), 0);
+    EXPECT_EQ(session->ed().transform.QuarterTurns, 1);
+
+    QTest::mouseClick(Widget("btnGUClose"), Qt::LeftButton);
+    EXPECT_EQ(frm.mapGroundUnits.Tag(), "False");
+    EXPECT_FALSE(controls->isVisibleTo(tabs));
+    EXPECT_LE(view->width(), Widget("lstGrnUnits")->x());
 }
 
 TEST(SkinServices, FileFiltersTakeQtsForm) {

@@ -1,8 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 #include <set>
-#include <sstream>
+#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
@@ -42,88 +43,6 @@ struct AllForms {
     }
 };
 
-// Every name of a form, "name(first..last)" for an array.
-const std::vector<std::pair<const char*, const char*>> kInventory = {
-    {"MDIMissionED",
-     "Picture1 mnuFile mnuNew mnuOpen mnuFileSpc1 mnuSave mnuSaveAs mnudummy(0..4) mnuFileSpc3 "
-     "mnuExit mnuEdit mnuCut mnuCopy mnuPaste editb1 mnuDel mnuClrPoints mnuClrMap mnuView "
-     "mnuSummary mnuFormations mnuGroundUnits mnuWaypoints mnuViewSpace mnuAddAC mnuGULayout "
-     "mnuVspace mnuMissions mnuStationary mnuTools mnuCompact mnuMissDetail mnuspace mnuoptions "
-     "mnuACList mnuACListNorm mnuACListInc mnuACListDec mnuAutoUpdate mnuDist mnuSound mnuSndOn "
-     "mnuIncVol mnuDecVol mnuTooltips mnuWindows mnuHelp mnuAbout"},
-    {"FrmMission",
-     "SSTab1 CommonDialog1 tmrSetColor cmbSort txtTitle txtSummary txtObjective txtType txtTip "
-     "txtPctReqd txtTime txtDate cmbClouds cmbVisibility cmbWinds cmbSelectMap lblAirfield lblAC "
-     "lblMap picSummaryTab fraGroupInfo lstGroupName btnGroupName btnDeleteGroup lblGrpID "
-     "lblGroupID lblWPStrData lblPattern cmbFormPattern lblDirective cmbDirective lblTOandLand "
-     "cmbTakeoffFlag chkSuspend btnSetWaypoints btnGrpView fraPilotInfo lstPilotName "
-     "btnPilotName btnDeletePilot chkPilotIsAC chkPlayer chkPoints lblSkill cmbSkill lblLevel "
-     "cmbLevel lblDamage cmbDamage lblACType cmbMovingType fraAllegianceType optAllegiance(0..3) "
-     "fraFamilyType OptFamily(0..3) lblGunTitle lblGun lblCannonTitle lblCannon lblRocketTitle "
-     "lblRockets lblBombTitle lblBombs fraWPSelect chkWP(0..15) txtWPPct(0..15) btnPathClear "
-     "btnWPClose fraGrpView cmbGroups updwnGroupView lblGrpWP fraAirfields lblStartRwy "
-     "cmbStartAtRwy lblEndRwy cmbEndAtRwy lblFlyBy cmbRunways mapWayPoints fraPathColor "
-     "optColor(0..15) lblPath(0..15) chkOverlay(0..15) fraWaypoints lstPoints lstPointsExtended "
-     "txtPoint txtAlt txtSpeed lblSpeed chkWPOptions(0..2) btnClrPoint btnWPNames btnWPTips "
-     "mapGroundUnits lstGrnUnits btnDelGUlst cmbGrndAirfield cmbAirfieldLayout btnDelGUcmb "
-     "lstGUAdded btnDeleteGrndUnit txtAddedGU txtGULatLon optGndHasPoints(0..2) cmbGUMap "
-     "fraGUPos btnXPos btnYPos btnRotate2 lblRotate2 btnSpread lblSpread btnZoom btnCursor "
-     "btnRotate90 btnGUReset btnSave btnGUClose chkStationary chkDataWindow btnX btnY XLine "
-     "YLine picAC fraStationary lstStationary"},
-    {"frmNewRecord", "txtNewRecord cmbPilotName btnAddRecord btnReplace btnCancel"},
-    {"frmAircraft",
-     "datPrimaryRS grdDataGrid picButtons cmdAdd cmdDelete cmdUpdate cmdClose Label2 cmbAirforce "
-     "Label1 cmbUnitRole "
-     "btnBrowse theFamList theAllyList"},
-    {"frmGrndNames",
-     "datPrimaryRS datSecondaryRS grdDataGrid fraLayoutView cmbGULayoutName Label1 lblUnitCount "
-     "fraLayoutAdd txtLayoutName txtLayoutID "
-     "txtLayoutTotal lstStationaryName txtStationaryName theDamageList picButtons cmdAdd "
-     "cmdUpdate cmdDeleteLayout cmdDeleteUnits cmdClose"},
-    {"frmGUOffsets",
-     "dataGUOffsets dbgGUOffsets Picture1 btnOffsetEdit btnDelGU lblUpGU lblDownGU"},
-    {"frmtblMissions",
-     "datPrimaryRS grdDataGrid lblType lblSummary lblObjective lblDate lblTime lblReqd lblClouds "
-     "lblWind lblVis lblAlly "
-     "optAllegiance(0..3) cmdLoad btnDelete cmdClose"},
-    {"frmMsgScreen", "lblMessage"},
-    {"frmSplash", "picSplash Timer1 lblVersion"},
-    {"frmAbout", "picAbout picOK"},
-};
-
-TEST(Forms, EveryNamedControlIsFoundUnderItsName) {
-    AllForms forms;
-    for (const auto& [formName, names] : kInventory) {
-        Form* form = nullptr;
-        for (Form* f : forms.All())
-            if (f->Name() == formName) form = f;
-        ASSERT_NE(form, nullptr) << formName;
-        std::istringstream words(names);
-        std::string word;
-        while (words >> word) {
-            const auto open = word.find('(');
-            if (open == std::string::npos) {
-                Component* c = form->FindComponent(word);
-                ASSERT_NE(c, nullptr) << formName << "." << word;
-                EXPECT_EQ(c->Name(), word);
-                EXPECT_EQ(c->Index(), -1);
-                continue;
-            }
-            const std::string name = word.substr(0, open);
-            const int first = std::stoi(word.substr(open + 1));
-            const int last = std::stoi(word.substr(word.find("..") + 2));
-            EXPECT_EQ(form->FindComponent(name), nullptr) << name << " is an array";
-            EXPECT_EQ(form->FindComponent(name, last + 1), nullptr) << name;
-            for (int i = first; i <= last; ++i) {
-                Component* c = form->FindComponent(name, i);
-                ASSERT_NE(c, nullptr) << formName << "." << name << "(" << i << ")";
-                EXPECT_EQ(c->Name(), name);
-                EXPECT_EQ(c->Index(), i);
-            }
-        }
-    }
-}
-
 TEST(Forms, RegisterHoldsEachControlOnceAndLooksUpWithoutRegardToCase) {
     AllForms forms;
     for (Form* form : forms.All()) {
@@ -143,68 +62,114 @@ TEST(Forms, RegisterHoldsEachControlOnceAndLooksUpWithoutRegardToCase) {
     EXPECT_EQ(forms.mission.FindControl("nothing"), nullptr);
 }
 
-struct Rows {
-    const char* combo;
-    std::vector<std::pair<std::string, int>> rows;
+// The rectangle a control's declared place covers, in its container's coordinates.
+struct Box {
+    float left, top, right, bottom;
 };
 
-TEST(Forms, FixedRowsCarryTheirItemData) {
+Box BoxOf(const Place& p) {
+    return {p.left, p.top, p.left + p.width, p.top + p.height};
+}
+
+// The area of a container that its controls may use: a page is its tab strip below the
+// headers.
+Box InnerBoxOf(const Form& form, const Container& where) {
+    const Control* holder = where.Holder();
+    if (holder == &form) return {0, 0, form.Width(), form.Height()};
+    const Place& home = holder->Home();
+    // A surface seen through a scrolled view may grow over the rest of its own container.
+    if (holder->Where().IsScrolled()) {
+        const Box outer = InnerBoxOf(form, holder->Where());
+        return {0, 0, outer.right - home.left, outer.bottom - home.top};
+    }
+    const auto* strip = dynamic_cast<const TabControl*>(holder);
+    const float top = where.HasPages() && strip ? strip->TabHeight() : 0;
+    return {0, top, home.width, home.height};
+}
+
+bool Overlap(const Box& a, const Box& b) {
+    return a.left < b.right && b.left < a.right && a.top < b.bottom && b.top < a.bottom;
+}
+
+// Where a control's declared place holds: its container, and on a tab strip the first of its
+// pages (on the others the program moves it as the tab shows).
+std::pair<const Control*, int> SpotOf(const Control& c) {
+    const std::vector<int> pages = c.Where().PageList();
+    return {c.Where().Holder(), pages.empty() ? -1 : pages.front()};
+}
+
+std::string Named(const Control& c) {
+    return c.Index() < 0 ? c.Name() : c.Name() + "(" + std::to_string(c.Index()) + ")";
+}
+
+TEST(Forms, EveryControlLiesInsideAContainerOfItsForm) {
     AllForms forms;
-    const std::vector<std::pair<std::string, int>> maps = {
-        {"Map1Bob", 0}, {"Map2Bob", 1}, {"Map3Bob", 2}, {"Map4Bob", 3},
-        {"Map1BfE", 4}, {"Map2BfE", 5}, {"Map3BfE", 6}, {"Map4BfE", 7}};
-    const std::vector<Rows> table = {
-        {"cmbDirective",
-         {{"None", 0},
-          {"Enemy Fighters", 1},
-          {"Enemy Bombers", 2},
-          {"Enemy Vehicles", 3},
-          {"Enemy Buildings", 4}}},
-        {"cmbTakeoffFlag",
-         {{"Stay in the Air", 0}, {"Takeoff Only", 1}, {"Land Only", 2}, {"Takeoff and Land", 3}}},
-        {"cmbSkill",
-         {{"Rookie", 0}, {"Rookie +", 1}, {"Veteran", 2}, {"Veteran +", 3}, {"Ace", 4}}},
-        {"cmbLevel", {{"Rookie", 0}, {"Veteran", 1}, {"Ace", 2}}},
-        {"cmbDamage", {{"None", 0}, {"Smoke", 1}, {"Fire", 2}}},
-        {"cmbClouds", {{"No Clouds", 0}, {"Haze", 1}, {"Light Clouds", 2}, {"Heavy Clouds", 3}}},
-        {"cmbVisibility",
-         {{"Unlimited", 0}, {"20 Miles", 1}, {"5 Miles", 2}, {"1 Mile", 3}, {"0.25 Mile", 4}}},
-        {"cmbWinds", {{"No Wind", 0}, {"Light Wind", 1}, {"Moderate Wind", 2}, {"Heavy Wind", 3}}},
-        {"cmbFormPattern",
-         {{"Finger Four", 7000},
-          {"English Vic", 7002},
-          {"English Formation 2", 7003},
-          {"B-17 Compact Formation", 7004},
-          {"German Bomber V", 7005},
-          {"Ketten", 7007},
-          {"Line Abreast", 7009},
-          {"Line Astern (Malan's Formation)", 7010},
-          {"Single File", 7011},
-          {"Vehicle Convoy", 7050},
-          {"Tank Battalion", 7051},
-          {"English ship convoy", 7052},
-          {"German Train", 7053},
-          {"English river convoy", 7054},
-          {"German Train for TM's", 7056}}},
-        {"cmbSelectMap", maps},
-        {"cmbGUMap", maps},
-    };
-    auto check = [](Form& form, const char* name,
-                    const std::vector<std::pair<std::string, int>>& rows) {
-        auto* list = dynamic_cast<ListControl*>(form.FindControl(name));
-        ASSERT_NE(list, nullptr) << name;
-        ASSERT_EQ(list->ListCount(), static_cast<int>(rows.size())) << name;
-        for (int r = 0; r < list->ListCount(); ++r) {
-            EXPECT_EQ(list->List(r), rows[r].first) << name << " row " << r;
-            EXPECT_EQ(list->ItemData(r), rows[r].second) << name << " row " << r;
+    for (Form* form : forms.All()) {
+        EXPECT_GT(form->Width(), 0) << form->Name();
+        EXPECT_GT(form->Height(), 0) << form->Name();
+        const std::vector<Control*> controls = form->Controls();
+        for (const Control* c : controls) {
+            SCOPED_TRACE(form->Name() + "." + Named(*c));
+            const Control* holder = c->Where().Holder();
+            ASSERT_NE(holder, nullptr) << "no container";
+            ASSERT_TRUE(holder == form ||
+                        std::find(controls.begin(), controls.end(), holder) != controls.end())
+                << "a container of another form";
+            const Box inner = InnerBoxOf(*form, c->Where());
+            const Box box = BoxOf(c->Home());
+            EXPECT_TRUE(box.left >= inner.left && box.top >= inner.top &&
+                        box.right <= inner.right && box.bottom <= inner.bottom)
+                << "outside its container: " << box.left << "," << box.top << " to " << box.right
+                << "," << box.bottom;
         }
-        EXPECT_EQ(list->ListIndex(), -1) << name;
+    }
+}
+
+// Two controls of one container may share ground only when one of them is an overlay: shown in
+// turn with what lies under it (lstPointsExtended in place of lstPoints, fraWPSelect over the
+// filters), and hidden at first.
+TEST(Forms, NoTwoControlsOfAContainerLieOnTopOfEachOther) {
+    AllForms forms;
+    for (Form* form : forms.All()) {
+        const std::vector<Control*> controls = form->Controls();
+        for (size_t i = 0; i < controls.size(); ++i) {
+            const Control& a = *controls[i];
+            if (a.Where().IsOverlay()) {
+                EXPECT_FALSE(a.Visible()) << Named(a) << " shows at first";
+            }
+            for (size_t j = i + 1; j < controls.size(); ++j) {
+                const Control& b = *controls[j];
+                if (a.Where().IsOverlay() || b.Where().IsOverlay()) continue;
+                if (SpotOf(a) != SpotOf(b)) continue;
+                EXPECT_FALSE(Overlap(BoxOf(a.Home()), BoxOf(b.Home())))
+                    << form->Name() << ": " << Named(a) << " and " << Named(b);
+            }
+        }
+    }
+}
+
+// A form that gives a control a container of another form is refused as it is built.
+TEST(Forms, AContainerOfAnotherFormIsRefused) {
+    struct Stray : Form {
+        explicit Stray(const Control& elsewhere) : Form("frmStray") {
+            Move(0, 0, 1000, 1000);
+            Add(NAMED(lblStray), In(elsewhere), {0, 0, 100, 100});
+        }
+        Label lblStray;
     };
-    for (const Rows& combo : table)
-        check(forms.mission, combo.combo, combo.rows);
-    check(forms.aircraft, "theFamList", {{"Fighter", 1}, {"Bomber", 2}, {"Other", 3}});
-    check(forms.aircraft, "theAllyList", {{"RAF", 1}, {"Luftwaffe", 2}, {"USAAF", 3}});
-    check(forms.grndNames, "theDamageList", {{"None", 0}, {"Smoke", 1}, {"Fire", 2}});
+    struct Mislaid : Form {
+        Mislaid() : Form("frmMislaid") {
+            Move(0, 0, 1000, 1000);
+            Add(NAMED(fraLate), Self());
+            Add(NAMED(lblPage), Page(SSTab1, 0), {0, 0, 100, 100});
+        }
+        Frame fraLate;
+        TabControl SSTab1;
+        Label lblPage;
+    };
+    AllForms forms;
+    EXPECT_THROW(Stray{forms.mission.fraGroupInfo}, std::logic_error);
+    EXPECT_THROW(Mislaid{}, std::logic_error) << "a strip entered after its page's controls";
 }
 
 // Each column as "caption=field", joined by "|".

@@ -29,6 +29,44 @@ TEST(ScriptedDialogsTest, QueuedAnswersFirstThenTheDesktopDefaults) {
     EXPECT_EQ(dialogs.inputs.size(), 2u);
 }
 
+// A box with nothing queued is entered as unanswered; declining, it takes the answer that
+// changes nothing. A queued file serves either dialog.
+TEST(ScriptedDialogsTest, UnansweredBoxesAreRecordedAndDeclinedOnRequest) {
+    const struct {
+        MsgButtons buttons;
+        MsgAnswer byDefault, declined;
+    } cases[] = {{MsgButtons::OK, MsgAnswer::OK, MsgAnswer::OK},
+                 {MsgButtons::OKCancel, MsgAnswer::OK, MsgAnswer::Cancel},
+                 {MsgButtons::YesNo, MsgAnswer::Yes, MsgAnswer::No},
+                 {MsgButtons::YesNoCancel, MsgAnswer::Yes, MsgAnswer::Cancel}};
+    for (const auto& c : cases) {
+        ScriptedDialogs dialogs;
+        const MessageBoxRequest box{"Delete?", "Confirm", c.buttons, MsgIcon::Question};
+        EXPECT_EQ(dialogs.MsgBox(box), c.byDefault);
+        dialogs.declineUnanswered = true;
+        EXPECT_EQ(dialogs.MsgBox(box), c.declined);
+        ASSERT_EQ(dialogs.unanswered.size(), 2u);
+        EXPECT_EQ(dialogs.unanswered[0].kind, "message box");
+        EXPECT_EQ(dialogs.unanswered[0].text, "Delete?");
+    }
+
+    ScriptedDialogs dialogs;
+    dialogs.declineUnanswered = true;
+    InputBoxRequest input;
+    input.prompt = "Enter Name";
+    input.preset = "Coast";
+    EXPECT_EQ(dialogs.InputBox(input), "");
+    dialogs.QueueFile("/sim/a.mis");
+    EXPECT_TRUE(dialogs.AnswersQueued());
+    EXPECT_EQ(dialogs.ShowSave({}).fileName, "/sim/a.mis");
+    EXPECT_TRUE(dialogs.ShowOpen({}).cancelled);
+    ASSERT_EQ(dialogs.unanswered.size(), 2u);
+    EXPECT_EQ(dialogs.unanswered[0].kind, "input box");
+    EXPECT_EQ(dialogs.unanswered[0].text, "Enter Name");
+    EXPECT_EQ(dialogs.unanswered[1].kind, "open dialog");
+    EXPECT_FALSE(dialogs.AnswersQueued());
+}
+
 TEST(ScriptedDialogsTest, ChosenFileTitleTakesEitherSeparator) {
     EXPECT_EQ(ScriptedDialogs::Chosen("C:\\Sim\\missions\\a.mis").fileTitle, "a.mis");
     EXPECT_EQ(ScriptedDialogs::Chosen("/sim/missions/b.mis").fileTitle, "b.mis");

@@ -67,6 +67,45 @@ void Component::Notify(Aspect aspect) const {
         entry.second(aspect);
 }
 
+Container Container::In(const Control& holder) {
+    Container c;
+    c.holder_ = &holder;
+    return c;
+}
+
+Container Container::Pages(const Control& tabStrip, std::initializer_list<int> pages) {
+    Container c;
+    c.holder_ = &tabStrip;
+    for (int page : pages)
+        if (page >= 0 && page < 32) c.pages_ |= 1U << page;
+    return c;
+}
+
+Container Container::Scrolled() const {
+    Container c = *this;
+    c.scrolled_ = true;
+    return c;
+}
+
+Container Container::Overlay() const {
+    Container c = *this;
+    c.overlay_ = true;
+    return c;
+}
+
+std::vector<int> Container::PageList() const {
+    std::vector<int> pages;
+    for (int page = 0; page < 32; ++page)
+        if (OnPage(page)) pages.push_back(page);
+    return pages;
+}
+
+void Control::PlaceIn(const Container& where, const Place& place) {
+    where_ = where;
+    home_ = place;
+    Move(place);
+}
+
 void Control::ListEvents(std::vector<NamedEvent>& out) const {
     out.insert(out.end(), {{"Click", &Click},
                            {"DblClick", &DblClick},

@@ -7,6 +7,7 @@
 // the value, after the new value is stored; setting a value to what it already is fires nothing.
 #include <cstdint>
 #include <functional>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -97,6 +98,50 @@ using KeyEvent = Event<int&, int>;
 // The data dragged, and the effect the handler allows.
 using DragEvent = Event<const DragData&, int&>;
 
+class Control;
+
+// A place in map units: left and top in the container, width and height.
+struct Place {
+    float left = 0;
+    float top = 0;
+    float width = 0;
+    float height = 0;
+};
+
+// What a control lies in: its form, a frame or picture surface of that form, or pages of the
+// form's tab strip. A control's Left and Top count from its container's top left corner; on a
+// page, from the tab strip's, the strip of headers included.
+class Container {
+  public:
+    // None: a control that its form has not placed.
+    Container() = default;
+    // The form itself, or a frame or picture surface of the same form.
+    static Container In(const Control& holder);
+    // Pages of a tab strip. A control shown on several pages goes where the page showing is;
+    // its place holds on the first page listed, and the program moves it on the others.
+    static Container Pages(const Control& tabStrip, std::initializer_list<int> pages);
+
+    // A surface that may grow beyond its place, seen through a scrolled view of that place.
+    Container Scrolled() const;
+    // A control that the program shows in turn with what lies under it (in place of it, or
+    // over it while it is open): it starts hidden, and it alone may overlap its neighbours.
+    Container Overlay() const;
+
+    const Control* Holder() const { return holder_; }
+    bool HasPages() const { return pages_ != 0; }
+    bool OnPage(int page) const { return page >= 0 && page < 32 && (pages_ >> page & 1U) != 0; }
+    // The pages in order; empty for a container that is no tab strip.
+    std::vector<int> PageList() const;
+    bool IsScrolled() const { return scrolled_; }
+    bool IsOverlay() const { return overlay_; }
+
+  private:
+    const Control* holder_ = nullptr;
+    std::uint32_t pages_ = 0;
+    bool scrolled_ = false;
+    bool overlay_ = false;
+};
+
 // Identity, tag and listeners: what every model has, visible or not (timers, menus, dialogs).
 class Component {
   public:
@@ -159,6 +204,13 @@ class Control : public Component {
     void Move(float left, float top) { Move(left, top, width_, height_); }
     // A negative width or height raises error 380.
     virtual void Move(float left, float top, float width, float height);
+    void Move(const Place& place) { Move(place.left, place.top, place.width, place.height); }
+
+    // Where the form put the control, and the place it gave it there. The program may move
+    // the control later; Home stays, and is the view of a scrolled surface.
+    const Container& Where() const { return where_; }
+    const Place& Home() const { return home_; }
+    void PlaceIn(const Container& where, const Place& place);
 
     bool Enabled() const { return enabled_; }
     void SetEnabled(bool enabled);
@@ -222,6 +274,8 @@ class Control : public Component {
     void ListEvents(std::vector<NamedEvent>& out) const override;
 
   private:
+    Container where_;
+    Place home_;
     float left_ = 0;
     float top_ = 0;
     float width_ = 0;

@@ -20,10 +20,18 @@ class ControlArray {
         for (int i = first; i <= last; ++i)
             Load(i);
     }
+    // Elements first..last without a name yet: the form names the array when it enters it.
+    ControlArray(int first, int last) : ControlArray(std::string(), first, last) {}
     ControlArray(const ControlArray&) = delete;
     ControlArray& operator=(const ControlArray&) = delete;
 
     const std::string& Name() const { return name_; }
+    // Names the array and every element loaded so far.
+    void SetName(std::string name) {
+        name_ = std::move(name);
+        for (auto& [index, item] : items_)
+            item->SetIdentity(name_, index);
+    }
 
     T& operator()(int index) { return At(index); }
     const T& operator()(int index) const { return At(index); }

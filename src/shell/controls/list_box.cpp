@@ -12,6 +12,7 @@ constexpr int kErrBadArrayIndex = 381;
 
 void ListBox::StoreListIndex(int index) {
     listIndex_ = index;
+    anchor_ = index;
     if (MultiSelecting()) {
         if (index >= 0) rows_[index].selected = true;
     } else {

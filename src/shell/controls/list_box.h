@@ -28,6 +28,11 @@ class ListBox : public ListControl {
     // rows selected and the focus on focusRow. Fires Click once when anything changed.
     void SetSelection(const std::vector<int>& rows, int focusRow);
 
+    // The row a Shift press extends the selection from: the row of the user's last press
+    // without Shift, or the row code selected since. -1 when there is none.
+    int AnchorIndex() const { return anchor_ < ListCount() ? anchor_ : -1; }
+    void SetAnchorIndex(int row) { anchor_ = row; }
+
     // The first row shown; clamped to the rows present.
     int TopIndex() const;
     void SetTopIndex(int index);
@@ -40,6 +45,7 @@ class ListBox : public ListControl {
   private:
     int multiSelect_ = kMultiSelectNone;
     int topIndex_ = 0;
+    int anchor_ = -1;
 };
 
 }  // namespace tarvex

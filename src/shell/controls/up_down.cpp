@@ -45,6 +45,12 @@ void UpDown::Step(int delta) {
     if (next != value_) SetValue(next);
 }
 
+void UpDown::SetShowValue(bool show) {
+    if (show == showValue_) return;
+    showValue_ = show;
+    Notify(Aspect::Appearance);
+}
+
 void UpDown::UserUp() {
     Step(increment_);
     if (UpClick) UpClick();

@@ -24,6 +24,11 @@ class UpDown : public Control {
     void UserUp();
     void UserDown();
 
+    // The value stands in a box beside the arrows, where it can be typed as well; otherwise
+    // the control is the arrows alone.
+    bool ShowValue() const { return showValue_; }
+    void SetShowValue(bool show);
+
     Event<> Change;
     Event<> UpClick;
     Event<> DownClick;
@@ -39,6 +44,7 @@ class UpDown : public Control {
     int min_ = 0;
     int max_ = 10;
     int increment_ = 1;
+    bool showValue_ = false;
 };
 
 }  // namespace tarvex

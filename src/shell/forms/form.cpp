@@ -1,6 +1,7 @@
 #include "shell/forms/form.h"
 
 #include <cctype>
+#include <stdexcept>
 
 namespace tarvex {
 
@@ -50,6 +51,18 @@ std::vector<Control*> Form::Controls() const {
     for (Component* component : Components())
         if (auto* control = dynamic_cast<Control*>(component)) controls.push_back(control);
     return controls;
+}
+
+void Form::CheckContainer(const Container& where, const std::string& name) const {
+    const Control* holder = where.Holder();
+    bool known = holder == this;
+    for (const Registered& entry : entries_)
+        known = known || (holder && entry.single == holder);
+    if (!known)
+        throw std::logic_error(Name() + "." + name +
+                               " lies in a container that is not of the form");
+    if (where.HasPages() && !dynamic_cast<const TabControl*>(holder))
+        throw std::logic_error(Name() + "." + name + " lies on pages of a control that has none");
 }
 
 void Form::LoadForm() {

@@ -1,7 +1,8 @@
 #pragma once
 // What every form shares: its own window (caption, place and size, visibility, through the
 // caption control it derives from) and the register of its controls, through which the skin
-// and the tests reach each control by the name it carries.
+// and the tests reach each control by the name it carries and learn where it lies.
+#include <concepts>
 #include <functional>
 #include <initializer_list>
 #include <string>
@@ -26,8 +27,25 @@ struct FixedRow {
     std::int32_t data;
 };
 
+// A member and its own name, for Add: Add(NAMED(txtTitle), ...) enters txtTitle as "txtTitle".
+#define NAMED(member) member, #member
+
+// Controls take a place in their form; the other components (menu entries, timers, dialogs)
+// don't.
+template <typename T>
+concept ControlKind = std::derived_from<T, Control>;
+template <typename T>
+concept OtherComponentKind = std::derived_from<T, Component> && !ControlKind<T>;
+
 class Form : public CaptionControl {
   public:
+    // Heights of one line of each kind of control, in map units, for laying out the forms.
+    static constexpr float kTextHeight = 300;
+    static constexpr float kComboHeight = 330;
+    static constexpr float kLabelHeight = 225;
+    static constexpr float kCheckHeight = 255;
+    static constexpr float kButtonHeight = 345;
+
     // A form starts hidden: showing it is the business of whoever opens it.
     explicit Form(std::string name) : CaptionControl(std::move(name)) { SetVisible(false); }
 
@@ -62,31 +80,55 @@ class Form : public CaptionControl {
   protected:
     void ListEvents(std::vector<NamedEvent>& out) const override;
 
-    // Names a component that stands alone and enters it in the register.
-    template <typename T>
-    T& Add(T& component, std::string name) {
-        component.SetIdentity(std::move(name), -1);
-        Registered entry;
-        entry.name = component.Name();
-        entry.single = &component;
-        entries_.push_back(std::move(entry));
-        return component;
+    // Each control is declared once, in the form's constructor: its name, its container and
+    // its place there, in map units. A container is the form itself (Self), a frame or picture
+    // surface entered before (In), or pages of a tab strip entered before (Page, Pages):
+    //     Add(NAMED(lstStationary), In(fraStationary), {120, 240, 3420, 1200});
+    //     Add(NAMED(txtSummary), Page(SSTab1, 0), {1320, 760, 3900, 1200}).SetMultiLine(true);
+    // A map seen through a scrolled view of its place takes Page(SSTab1, 3).Scrolled(); a
+    // control shown in turn with what lies under it (hidden at first), In(frame).Overlay().
+    Container Self() const { return Container::In(*this); }
+    static Container In(const Control& holder) { return Container::In(holder); }
+    static Container Page(const TabControl& strip, int page) {
+        return Container::Pages(strip, {page});
+    }
+    static Container Pages(const TabControl& strip, std::initializer_list<int> pages) {
+        return Container::Pages(strip, pages);
     }
 
-    // Enters an array (named when it was made); elements loaded later are found as well.
-    template <typename T>
-    ControlArray<T>& Add(ControlArray<T>& array) {
-        Registered entry;
-        entry.name = array.Name();
-        entry.find = [&array](int index) -> Component* {
-            return array.Exists(index) ? &array(index) : nullptr;
-        };
-        entry.each = [&array](std::vector<Component*>& out) {
-            for (T& element : array)
-                out.push_back(&element);
-        };
-        entries_.push_back(std::move(entry));
-        return array;
+    template <ControlKind T>
+    T& Add(T& control, std::string name, const Container& where, const Place& place = {}) {
+        CheckContainer(where, name);
+        control.SetIdentity(std::move(name), -1);
+        control.PlaceIn(where, place);
+        Enter(control);
+        return control;
+    }
+
+    // A control array, each element at the place that placeOf(index) gives:
+    //     Add(NAMED(chkWPOptions), In(fraWaypoints),
+    //         [](int k) { return Place{2640, 980 + k * 280.0f, 1140, kCheckHeight}; });
+    template <ControlKind T, typename PlaceOf>
+    ControlArray<T>& Add(ControlArray<T>& array, std::string name, const Container& where,
+                         PlaceOf placeOf) {
+        CheckContainer(where, name);
+        array.SetName(std::move(name));
+        for (T& element : array)
+            element.PlaceIn(where, placeOf(element.Index()));
+        return Enter(array);
+    }
+
+    // Menu entries, timers and dialogs: a name and no place.
+    template <OtherComponentKind T>
+    T& Add(T& component, std::string name) {
+        component.SetIdentity(std::move(name), -1);
+        Enter(component);
+        return component;
+    }
+    template <OtherComponentKind T>
+    ControlArray<T>& Add(ControlArray<T>& array, std::string name) {
+        array.SetName(std::move(name));
+        return Enter(array);
     }
 
     // Rows whose item data is the row number.
@@ -99,6 +141,32 @@ class Form : public CaptionControl {
     }
 
   private:
+    // Enters a component that stands alone in the register.
+    void Enter(Component& component) {
+        Registered entry;
+        entry.name = component.Name();
+        entry.single = &component;
+        entries_.push_back(std::move(entry));
+    }
+    // Enters an array; elements loaded later are found as well.
+    template <typename T>
+    ControlArray<T>& Enter(ControlArray<T>& array) {
+        Registered entry;
+        entry.name = array.Name();
+        entry.find = [&array](int index) -> Component* {
+            return array.Exists(index) ? &array(index) : nullptr;
+        };
+        entry.each = [&array](std::vector<Component*>& out) {
+            for (T& element : array)
+                out.push_back(&element);
+        };
+        entries_.push_back(std::move(entry));
+        return array;
+    }
+    // A container must be this form or a control entered before; anything else is a fault of
+    // the form's declaration, which no window could show.
+    void CheckContainer(const Container& where, const std::string& name) const;
+
     bool loaded_ = false;
     struct Registered {
         std::string name;

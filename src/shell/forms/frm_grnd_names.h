@@ -16,13 +16,19 @@ class frmGrndNames : public Form {
     DataSource datSecondaryRS;
     DataGrid grdDataGrid;
     Frame fraLayoutView;
+    Label lblGULayoutNameCaption;
     ComboBox cmbGULayoutName;
+    Label lblIDCaption;
     // Shows the layout's ID.
     Label Label1;
+    Label lblUnitCountCaption;
     Label lblUnitCount;
     Frame fraLayoutAdd;
+    Label lblLayoutNameCaption;
     TextBox txtLayoutName;
+    Label lblLayoutIDCaption;
     TextBox txtLayoutID;
+    Label lblLayoutTotalCaption;
     TextBox txtLayoutTotal;
     ListBox lstStationaryName;
     TextBox txtStationaryName;

@@ -33,6 +33,22 @@ class FrmMission : public Form {
     Label lblAirfield;
     Label lblAC;
     Label lblMap;
+    // The captions beside the boxes and read-outs.
+    Label lblTitleCaption;
+    Label lblSummaryCaption;
+    Label lblObjectiveCaption;
+    Label lblTypeCaption;
+    Label lblTipCaption;
+    Label lblPctReqdCaption;
+    Label lblTimeCaption;
+    Label lblDateCaption;
+    Label lblCloudsCaption;
+    Label lblVisibilityCaption;
+    Label lblWindsCaption;
+    Label lblSelectMapCaption;
+    Label lblAirfieldCaption;
+    Label lblACCaption;
+    Label lblMapCaption;
     PictureSurface picSummaryTab;
 
     // ---- Formations: groups ----------------------------------------------------------------
@@ -144,6 +160,11 @@ class FrmMission : public Form {
     Label lblSpread;
     UpDown btnZoom;
     UpDown btnCursor;
+    // The captions of the spinners that have no label of their own.
+    Label lblXPosCaption;
+    Label lblYPosCaption;
+    Label lblZoomCaption;
+    Label lblCursorCaption;
     CommandButton btnRotate90;
     CommandButton btnGUReset;
     CommandButton btnSave;

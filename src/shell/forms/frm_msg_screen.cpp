@@ -3,7 +3,8 @@
 namespace tarvex {
 
 frmMsgScreen::frmMsgScreen() : Form("frmMsgScreen") {
-    Add(lblMessage, "lblMessage");
+    Move(0, 0, 4800, 960);
+    Add(NAMED(lblMessage), Self(), {240, 240, 4320, 480});
 }
 
 }  // namespace tarvex

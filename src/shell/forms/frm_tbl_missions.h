@@ -23,6 +23,17 @@ class frmtblMissions : public Form {
     Label lblWind;
     Label lblVis;
     Label lblAlly;
+    // The captions of the details.
+    Label lblTypeCaption;
+    Label lblSummaryCaption;
+    Label lblObjectiveCaption;
+    Label lblDateCaption;
+    Label lblTimeCaption;
+    Label lblReqdCaption;
+    Label lblCloudsCaption;
+    Label lblWindCaption;
+    Label lblVisCaption;
+    Label lblAllyCaption;
     ControlArray<OptionButton> optAllegiance;
     CommandButton cmdLoad;
     CommandButton btnDelete;

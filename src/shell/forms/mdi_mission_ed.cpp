@@ -14,60 +14,63 @@ void Under(MenuItem& parent, MenuItem& item, const char* caption, const char* sh
 
 }  // namespace
 
-MDIMissionED::MDIMissionED() : Form("MDIMissionED"), mnudummy("mnudummy", 0, 4) {
+MDIMissionED::MDIMissionED() : Form("MDIMissionED"), mnudummy(0, 4) {
     SetCaption("Tarvex Mission Editor");
-    SetHeight(7296);
+    // As wide as the mission window it holds, with its border.
+    Move(0, 0, 9516, 7296);
 
-    Add(Picture1, "Picture1");
+    // The status strip keeps to the bottom edge over the whole width.
+    constexpr float kStripHeight = 330;
+    Add(NAMED(Picture1), Self(), {0, Height() - kStripHeight, Width(), kStripHeight});
 
     // The names first, in menu order, so that the register lists the entries as the bar does.
-    Add(mnuFile, "mnuFile");
-    Add(mnuNew, "mnuNew");
-    Add(mnuOpen, "mnuOpen");
-    Add(mnuFileSpc1, "mnuFileSpc1");
-    Add(mnuSave, "mnuSave");
-    Add(mnuSaveAs, "mnuSaveAs");
-    Add(mnudummy);
-    Add(mnuFileSpc3, "mnuFileSpc3");
-    Add(mnuExit, "mnuExit");
-    Add(mnuEdit, "mnuEdit");
-    Add(mnuCut, "mnuCut");
-    Add(mnuCopy, "mnuCopy");
-    Add(mnuPaste, "mnuPaste");
-    Add(editb1, "editb1");
-    Add(mnuDel, "mnuDel");
-    Add(mnuClrPoints, "mnuClrPoints");
-    Add(mnuClrMap, "mnuClrMap");
-    Add(mnuView, "mnuView");
-    Add(mnuSummary, "mnuSummary");
-    Add(mnuFormations, "mnuFormations");
-    Add(mnuGroundUnits, "mnuGroundUnits");
-    Add(mnuWaypoints, "mnuWaypoints");
-    Add(mnuViewSpace, "mnuViewSpace");
-    Add(mnuAddAC, "mnuAddAC");
-    Add(mnuGULayout, "mnuGULayout");
-    Add(mnuVspace, "mnuVspace");
-    Add(mnuMissions, "mnuMissions");
-    Add(mnuStationary, "mnuStationary");
-    Add(mnuTools, "mnuTools");
-    Add(mnuCompact, "mnuCompact");
-    Add(mnuMissDetail, "mnuMissDetail");
-    Add(mnuspace, "mnuspace");
-    Add(mnuoptions, "mnuoptions");
-    Add(mnuACList, "mnuACList");
-    Add(mnuACListNorm, "mnuACListNorm");
-    Add(mnuACListInc, "mnuACListInc");
-    Add(mnuACListDec, "mnuACListDec");
-    Add(mnuAutoUpdate, "mnuAutoUpdate");
-    Add(mnuDist, "mnuDist");
-    Add(mnuSound, "mnuSound");
-    Add(mnuSndOn, "mnuSndOn");
-    Add(mnuIncVol, "mnuIncVol");
-    Add(mnuDecVol, "mnuDecVol");
-    Add(mnuTooltips, "mnuTooltips");
-    Add(mnuWindows, "mnuWindows");
-    Add(mnuHelp, "mnuHelp");
-    Add(mnuAbout, "mnuAbout");
+    Add(NAMED(mnuFile));
+    Add(NAMED(mnuNew));
+    Add(NAMED(mnuOpen));
+    Add(NAMED(mnuFileSpc1));
+    Add(NAMED(mnuSave));
+    Add(NAMED(mnuSaveAs));
+    Add(NAMED(mnudummy));
+    Add(NAMED(mnuFileSpc3));
+    Add(NAMED(mnuExit));
+    Add(NAMED(mnuEdit));
+    Add(NAMED(mnuCut));
+    Add(NAMED(mnuCopy));
+    Add(NAMED(mnuPaste));
+    Add(NAMED(editb1));
+    Add(NAMED(mnuDel));
+    Add(NAMED(mnuClrPoints));
+    Add(NAMED(mnuClrMap));
+    Add(NAMED(mnuView));
+    Add(NAMED(mnuSummary));
+    Add(NAMED(mnuFormations));
+    Add(NAMED(mnuGroundUnits));
+    Add(NAMED(mnuWaypoints));
+    Add(NAMED(mnuViewSpace));
+    Add(NAMED(mnuAddAC));
+    Add(NAMED(mnuGULayout));
+    Add(NAMED(mnuVspace));
+    Add(NAMED(mnuMissions));
+    Add(NAMED(mnuStationary));
+    Add(NAMED(mnuTools));
+    Add(NAMED(mnuCompact));
+    Add(NAMED(mnuMissDetail));
+    Add(NAMED(mnuspace));
+    Add(NAMED(mnuoptions));
+    Add(NAMED(mnuACList));
+    Add(NAMED(mnuACListNorm));
+    Add(NAMED(mnuACListInc));
+    Add(NAMED(mnuACListDec));
+    Add(NAMED(mnuAutoUpdate));
+    Add(NAMED(mnuDist));
+    Add(NAMED(mnuSound));
+    Add(NAMED(mnuSndOn));
+    Add(NAMED(mnuIncVol));
+    Add(NAMED(mnuDecVol));
+    Add(NAMED(mnuTooltips));
+    Add(NAMED(mnuWindows));
+    Add(NAMED(mnuHelp));
+    Add(NAMED(mnuAbout));
 
     mnuFile.SetCaption("&File");
     Under(mnuFile, mnuNew, "&New", "Ctrl+N");
