@@ -21,8 +21,11 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QSpinBox>
+#include <QStyledItemDelegate>
 #include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -548,6 +551,14 @@ class LineEditBinding : public ControlBinding {
     }
 
   protected:
+    // A click in the box, after its press and release, as the desktop's text box raises it.
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        const bool click = event->type() == QEvent::MouseButtonRelease &&
+                           static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
+        const bool handled = ControlBinding::eventFilter(watched, event);
+        if (click && Widget()) Guarded([this] { model_.RaiseClick(); });
+        return handled;
+    }
     void ReportSelection() {
         if (Syncing()) return;
         const int start =
@@ -619,12 +630,34 @@ class TextEditBinding : public ControlBinding {
 
 // ---- Lists and combos -----------------------------------------------------------------------
 
+// Rows of the height the model gives, so that a row under the pointer is found from Y.
+class RowHeightDelegate : public QStyledItemDelegate {
+  public:
+    RowHeightDelegate(const ListBox& model, QObject* parent)
+        : QStyledItemDelegate(parent), model_(model) {}
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        QSize size = QStyledItemDelegate::sizeHint(option, index);
+        if (model_.RowHeight() > 0) size.setHeight(Px(model_.RowHeight()));
+        return size;
+    }
+
+  private:
+    const ListBox& model_;
+};
+
 class ListBinding : public ControlBinding {
   public:
     ListBinding(ListBox& model, QListWidget* list, QPointF origin)
         : ControlBinding(model, list, origin), model_(model), list_(list) {
         WatchChild(list->viewport());
         list->setUniformItemSizes(true);
+        list->setItemDelegate(new RowHeightDelegate(model, list));
+        // The first row shown is the model's TopIndex, however the list was scrolled.
+        connect(list->verticalScrollBar(), &QScrollBar::valueChanged, this, [this] {
+            if (Syncing()) return;
+            const int top = list_->indexAt(QPoint(1, 1)).row();
+            if (top >= 0) Guarded([&] { model_.SetTopIndex(top); });
+        });
         connect(list, &QListWidget::currentRowChanged, this, [this](int row) {
             if (Syncing() || model_.MultiSelect() != kMultiSelectNone) return;
             Guarded([&] { model_.SetListIndex(row); });
@@ -678,12 +711,14 @@ class DropComboBox : public QComboBox {
   public:
     using QComboBox::QComboBox;
     std::function<void()> onShow;
+    std::function<void()> onShown;
     std::function<void()> onHide;
     bool PopupOpen() const { return open_; }
     void showPopup() override {
         open_ = true;
         if (onShow) onShow();
         QComboBox::showPopup();
+        if (onShown) onShown();
     }
     void hidePopup() override {
         QComboBox::hidePopup();
@@ -708,6 +743,9 @@ class ComboBinding : public ControlBinding {
             Guarded([&] { model_.UserChoose(row); });
             SyncAll();
         });
+        // The model may make the list taller; it then opens upwards, over the combo.
+        combo->onShow = [this] { Guarded([&] { model_.UserOpenDrop(); }); };
+        combo->onShown = [this] { ScalePopup(); };
         // A list closed without a choice puts the row from before back. The choice, when
         // there is one, arrives right after the list closes, so look once it had its turn.
         combo->onHide = [this] {
@@ -744,6 +782,16 @@ class ComboBinding : public ControlBinding {
     bool PaintsBackColour() const override { return true; }
 
   private:
+    void ScalePopup() {
+        const float scale = model_.DropDownScale();
+        QWidget* popup = combo_->view()->window();
+        if (scale <= 0 || !popup) return;
+        // Its bottom stays at the combo's top; a list taller than the room above is cut.
+        const int bottom = combo_->mapToGlobal(QPoint(0, 0)).y();
+        const int screenTop = combo_->screen()->availableGeometry().top();
+        const int height = std::min(qRound(popup->height() * scale), bottom - screenTop);
+        popup->setGeometry(popup->x(), bottom - height, popup->width(), height);
+    }
     void WireEdit() {
         QLineEdit* edit = combo_->lineEdit();
         if (!edit) return;
