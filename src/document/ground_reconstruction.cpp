@@ -9,7 +9,7 @@
 #include "ground/layout_markers.h"
 #include "ground/mission_layouts.h"
 #include "maps/map_loading.h"
-#include "refdata/lookup.h"
+#include "refdata/shared_lookup.h"
 #include "refdata/sql_translation.h"
 #include "refdata/transaction.h"
 #include "shell/editor.h"
@@ -71,8 +71,8 @@ void Match(Editor& ed, std::int16_t unitId, std::int32_t& unitSum, bool deletePe
     bool found = false;
     const int number = frm.lstGUAdded.ListCount() + 1;
     {
-        Lookup rs(ed.db, st.LayoutKnown ? select + "Where ID=" + IntText(st.FileLayoutID)
-                                        : select + "Where UnitTotal=" + IntText(unitSum));
+        SharedLookup rs(ed.db, st.LayoutKnown ? select + "Where ID=" + IntText(st.FileLayoutID)
+                                              : select + "Where UnitTotal=" + IntText(unitSum));
         found = !rs->Eof();
         if (found) {
             rs->MoveFirst();
@@ -113,9 +113,9 @@ void Match(Editor& ed, std::int16_t unitId, std::int32_t& unitSum, bool deletePe
     float xOffset = 0;
     float yOffset = 0;
     {
-        Lookup units(ed.db,
-                     "SELECT ID,UnitType,Points,Heading,XOffset,YOffset FROM GrndTypes Where ID=" +
-                         IntText(layoutId));
+        SharedLookup units(
+            ed.db, "SELECT ID,UnitType,Points,Heading,XOffset,YOffset FROM GrndTypes Where ID=" +
+                       IntText(layoutId));
         units->MoveFirst();
         heading = units[3].Double();
         xOffset = CSng(units[4].Double());
@@ -153,7 +153,7 @@ std::int16_t NewUnnamedLayout(Editor& ed) {
                              Left(file, static_cast<long long>(file.size()) - 4) + "]";
     std::int16_t id = 0;
     {
-        Lookup rs(ed.db, "qryNextGuID");
+        SharedLookup rs(ed.db, "qryNextGuID");
         rs->MoveFirst();
         id = rs->Fields("NextID").Integer();
     }
@@ -226,7 +226,8 @@ void ReadGroundLayoutComment(Editor& ed, const std::string& value) {
     // of them changes its sum: it is looked up once per layout.
     if (st.CommentLayoutID != st.FileLayoutID) {
         st.CommentLayoutTotal = 0;
-        Lookup rs(ed.db, "SELECT UnitTotal FROM GrndNames Where ID=" + IntText(st.FileLayoutID));
+        SharedLookup rs(ed.db,
+                        "SELECT UnitTotal FROM GrndNames Where ID=" + IntText(st.FileLayoutID));
         if (!rs->Eof()) {
             rs->MoveFirst();
             st.CommentLayoutTotal = rs->Fields("UnitTotal").Long();

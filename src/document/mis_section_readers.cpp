@@ -6,8 +6,8 @@
 #include "document/coord_text.h"
 #include "document/ground_reconstruction.h"
 #include "ground/layout_markers.h"
-#include "refdata/lookup.h"
 #include "refdata/reference_lookups.h"
+#include "refdata/shared_lookup.h"
 #include "refdata/sql_translation.h"
 #include "shell/editor.h"
 #include "shell/forms/frm_mission.h"
@@ -31,8 +31,8 @@ void ForEachSectionLine(MisLines& lines, std::string& line, bool toEndOfFile, F&
 
 // The airfield of a runway id: its row in the airfield combos and its two-decimal position.
 void LookupRunway(Editor& ed, std::int32_t rwyId, int& row, std::string& lat, std::string& lon) {
-    Lookup rs(ed.db,
-              "SELECT Recnum,RwyID,RwyLat,RwyLon FROM Airfields Where RwyID=" + IntText(rwyId));
+    SharedLookup rs(
+        ed.db, "SELECT Recnum,RwyID,RwyLat,RwyLon FROM Airfields Where RwyID=" + IntText(rwyId));
     rs->MoveFirst();
     row = rs->Fields(0).Integer() - 1;
     double latDeg = rs->Fields(2).Double();
@@ -135,8 +135,8 @@ void ReadSummarySection(Editor& ed, MisLines& lines, std::string& line) {
             int recnum = 0;
             std::string name;
             {
-                Lookup rs(ed.db, "SELECT Recnum,Name FROM Maps Where Name=\"" +
-                                     QuotesDoubled(v, '"') + "\"");
+                SharedLookup rs(ed.db, "SELECT Recnum,Name FROM Maps Where Name=\"" +
+                                           QuotesDoubled(v, '"') + "\"");
                 rs->MoveFirst();
                 recnum = rs->Fields(0).Integer();
                 name = rs->Fields(1).Text();
@@ -208,7 +208,7 @@ void ReadUnitSection(Editor& ed, MisLines& lines, std::string& line, std::int16_
             if (t < 4000) {
                 ed.StepDetail = IntText(st.FileUnitID(row)) +
                                 ": Searching MDB.Aircraft Table for Aircraft ID " + IntText(t);
-                Lookup rs(ed.db, "SELECT AcID FROM Aircraft Where ACID=" + IntText(t));
+                SharedLookup rs(ed.db, "SELECT AcID FROM Aircraft Where ACID=" + IntText(t));
                 rs->MoveLast();
                 rs->MoveFirst();
                 st.FileUnitType(row) = rs->Fields(0).Integer();

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "document/file_text.h"
-#include "refdata/lookup.h"
+#include "refdata/shared_lookup.h"
 #include "shell/editor.h"
 #include "shell/forms/frm_mission.h"
 

@@ -2,7 +2,7 @@
 
 #include "common/number_text.h"
 #include "document/coord_text.h"
-#include "refdata/lookup.h"
+#include "refdata/shared_lookup.h"
 #include "shell/editor.h"
 #include "shell/forms/frm_mission.h"
 #include "shell/status_strip.h"
@@ -12,7 +12,7 @@ namespace tarvex {
 void LoadAirfieldPoint(Editor& ed, std::string& latText, std::string& lonText, int row,
                        std::int16_t& typeID, std::int16_t& elevation, double& rot,
                        std::int16_t& rwyID) {
-    Lookup rs(
+    SharedLookup rs(
         ed.db,
         "SELECT Recnum,RwyID,RwyLat,RwyLon,TypeID,Elevation,ROT FROM Airfields Where Recnum=" +
             IntText(row + 1));
@@ -31,9 +31,9 @@ void LoadAirfieldPoint(Editor& ed, std::string& latText, std::string& lonText, i
 }
 
 void ShowAircraftAttributes(Editor& ed, std::int32_t id) {
-    Lookup rs(ed.db,
-              "SELECT AcID,Family,Allegiance,Gun,Cannon,Rockets,Bombs FROM Aircraft Where ACID=" +
-                  IntText(id));
+    SharedLookup rs(
+        ed.db, "SELECT AcID,Family,Allegiance,Gun,Cannon,Rockets,Bombs FROM Aircraft Where ACID=" +
+                   IntText(id));
     rs->MoveFirst();
     const std::int32_t acId = rs[0].Long();
     const std::int16_t family = rs[1].Integer();
