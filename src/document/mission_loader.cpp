@@ -11,6 +11,7 @@
 #include "document/mis_text.h"
 #include "maps/map_loading.h"
 #include "maps/waypoint_controls.h"
+#include "maps/waypoint_list.h"
 #include "refdata/transaction.h"
 #include "shell/editor.h"
 #include "shell/forms/frm_mission.h"
@@ -104,7 +105,7 @@ void RebuildTabs(Editor& ed) {
     frm.optColor(0).SetValue(true);
     frm.lstPoints.Clear();
     for (int i = 1; i < doc.PathPointCount(0); ++i)
-        frm.lstPoints.AddItem(Format(i, "##00") + ". " + doc.WPLat(0, i) + " " + doc.WPLon(0, i));
+        frm.lstPoints.AddItem(PointRowText(i, doc.WPLat(0, i), doc.WPLon(0, i)));
 
     ed.StepText = "Selecting the landing airfield for this mission from the [Landing Runway Combo]";
     frm.cmbEndAtRwy.SetListIndex(doc.GrpLandingRwy(0));
@@ -130,7 +131,13 @@ void RebuildTabs(Editor& ed) {
     if (!ed.options.Measurement) ConvertSpeeds(ed);
 
     ed.StepText = "Setting Map Combo";
-    frm.cmbGUMap.SetListIndex(frm.cmbSelectMap.ListIndex());
+    // The load placed the markers on whatever map was shown before; the combo's click places
+    // them on the mission's map, also when the combo already stands on its row.
+    if (frm.cmbGUMap.ListIndex() == frm.cmbSelectMap.ListIndex()) {
+        frm.cmbGUMap.RaiseClick();
+    } else {
+        frm.cmbGUMap.SetListIndex(frm.cmbSelectMap.ListIndex());
+    }
 
     frm.btnGrpView.SetEnabled(true);
     // The load may have added layouts.

@@ -7,6 +7,8 @@
 #include <QComboBox>
 #include <QCursor>
 #include <QDebug>
+#include <QDragEnterEvent>
+#include <QDropEvent>
 #include <QEvent>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -16,6 +18,7 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPlainTextEdit>
@@ -28,6 +31,7 @@
 #include <QStyledItemDelegate>
 #include <QTimer>
 #include <QToolButton>
+#include <QUrl>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <exception>
@@ -131,6 +135,16 @@ int KeyCodeOf(int key) {
     }
 }
 
+DragData DragDataOf(const QMimeData* mime) {
+    DragData data;
+    if (mime && mime->hasUrls()) {
+        for (const QUrl& url : mime->urls())
+            if (url.isLocalFile()) data.files.push_back(url.toLocalFile().toStdString());
+        data.hasFiles = !data.files.empty();
+    }
+    return data;
+}
+
 void Guarded(const std::function<void()>& call) {
     try {
         call();
@@ -161,6 +175,8 @@ ControlBinding::ControlBinding(Control& model, QWidget* widget, QPointF origin)
                           (model.Index() >= 0 ? QString("(%1)").arg(model.Index()) : QString()));
     widget->installEventFilter(this);
     listener_ = model.AddListener([this](Aspect aspect) { OnModel(aspect); });
+    // A handler of the pointer's moves hears them with no button down too (status texts).
+    if (model.MouseMove) widget->setMouseTracking(true);
 }
 
 ControlBinding::~ControlBinding() {
@@ -334,19 +350,22 @@ bool ControlBinding::eventFilter(QObject* watched, QEvent* event) {
         case QEvent::MouseButtonPress: {
             auto* mouse = static_cast<QMouseEvent*>(event);
             const auto [x, y] = at(mouse);
-            Guarded([&] {
-                model_.RaiseMouseDown(ButtonOf(mouse->button()), ShiftOf(mouse->modifiers()), x, y);
-            });
-            return false;
+            const int button = ButtonOf(mouse->button());
+            const int shift = ShiftOf(mouse->modifiers());
+            const bool first = SelectsBeforeMouseEvents();
+            if (first && !deliverFirst()) return true;
+            Guarded([&] { model_.RaiseMouseDown(button, shift, x, y); });
+            return first;
         }
         case QEvent::MouseMove: {
             auto* mouse = static_cast<QMouseEvent*>(event);
             const auto [x, y] = at(mouse);
-            Guarded([&] {
-                model_.RaiseMouseMove(ButtonOf(mouse->buttons()), ShiftOf(mouse->modifiers()), x,
-                                      y);
-            });
-            return false;
+            const int buttons = ButtonOf(mouse->buttons());
+            const int shift = ShiftOf(mouse->modifiers());
+            const bool first = SelectsBeforeMouseEvents();
+            if (first && !deliverFirst()) return true;
+            Guarded([&] { model_.RaiseMouseMove(buttons, shift, x, y); });
+            return first;
         }
         case QEvent::MouseButtonRelease: {
             auto* mouse = static_cast<QMouseEvent*>(event);
@@ -439,6 +458,11 @@ class FrameBinding : public ControlBinding {
             box_->setTitle(PlainCaption(model_.Caption()));
         ControlBinding::Sync(aspect);
     }
+    // A frame covers what lies under it, as a panel opened over other controls must.
+    void SyncAppearance() override {
+        ControlBinding::SyncAppearance();
+        box_->setAutoFillBackground(true);
+    }
 
   private:
     Frame& model_;
@@ -452,6 +476,8 @@ class ButtonBinding : public ControlBinding {
         connect(button, &QPushButton::clicked, this, [this] {
             if (!Syncing()) Guarded([this] { model_.UserClick(); });
         });
+        // A button that takes dropped files says so in its events.
+        button->setAcceptDrops(model.OLEDragOver.Connected() || model.OLEDragDrop.Connected());
     }
 
   protected:
@@ -459,6 +485,32 @@ class ButtonBinding : public ControlBinding {
         if (aspect == Aspect::Text || aspect == Aspect::Appearance)
             button_->setText(Q(model_.Caption()));
         ControlBinding::Sync(aspect);
+    }
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched != button_) return ControlBinding::eventFilter(watched, event);
+        switch (event->type()) {
+            case QEvent::DragEnter: {
+                auto* drag = static_cast<QDragEnterEvent*>(event);
+                int effect = kDropEffectNone;
+                Guarded([&] { effect = model_.RaiseDragOver(DragDataOf(drag->mimeData())); });
+                if (effect == kDropEffectNone) {
+                    drag->ignore();
+                } else {
+                    drag->setDropAction(effect & kDropEffectCopy ? Qt::CopyAction : Qt::MoveAction);
+                    drag->accept();
+                }
+                return true;
+            }
+            case QEvent::Drop: {
+                auto* drop = static_cast<QDropEvent*>(event);
+                const DragData data = DragDataOf(drop->mimeData());
+                drop->acceptProposedAction();
+                Guarded([&] { model_.RaiseDragDrop(data); });
+                return true;
+            }
+            default:
+                return ControlBinding::eventFilter(watched, event);
+        }
     }
 
   private:
@@ -700,6 +752,7 @@ class ListBinding : public ControlBinding {
         ControlBinding::Sync(aspect);
     }
     bool PaintsBackColour() const override { return true; }
+    bool SelectsBeforeMouseEvents() const override { return true; }
 
   private:
     ListBox& model_;

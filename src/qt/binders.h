@@ -15,6 +15,7 @@
 #include "shell/controls/data_grid.h"
 
 class QMenuBar;
+class QMimeData;
 class QScrollArea;
 class QTimer;
 
@@ -36,6 +37,9 @@ QColor ToQColor(Colour colour);
 QString PlainCaption(const std::string& caption);
 // The desktop's key code of a Qt key; 0 for keys the program never tests.
 int KeyCodeOf(int qtKey);
+
+// The local files a drag carries.
+DragData DragDataOf(const QMimeData* mime);
 
 // Runs a call into the core; a failure that escapes its handlers is reported on the console
 // instead of tearing down the event loop.
@@ -63,6 +67,9 @@ class ControlBinding : public QObject {
     virtual void SyncAppearance();
     // Widgets that show their own text in the control's colours.
     virtual bool PaintsBackColour() const { return false; }
+    // A list selects the row under the pointer before its MouseDown and MouseMove, so that
+    // their handlers read the pressed row (and the row a drag has reached) from ListIndex.
+    virtual bool SelectsBeforeMouseEvents() const { return false; }
     bool eventFilter(QObject* watched, QEvent* event) override;
     // Whether code is updating the widget (its echoes are ignored).
     bool Syncing() const { return syncing_ > 0; }

@@ -2,10 +2,8 @@
 
 #include <QDragEnterEvent>
 #include <QDropEvent>
-#include <QMimeData>
 #include <QMouseEvent>
 #include <QTabBar>
-#include <QUrl>
 
 #include "qt/binders.h"
 
@@ -27,16 +25,6 @@ class TabBinding : public ControlBinding {
   private:
     TabView* view_;
 };
-
-DragData DragDataOf(const QMimeData* mime) {
-    DragData data;
-    if (mime && mime->hasUrls()) {
-        for (const QUrl& url : mime->urls())
-            if (url.isLocalFile()) data.files.push_back(url.toLocalFile().toStdString());
-        data.hasFiles = !data.files.empty();
-    }
-    return data;
-}
 
 int ShiftOf(Qt::KeyboardModifiers modifiers) {
     return ((modifiers & Qt::ShiftModifier) ? kShiftMask : 0) |

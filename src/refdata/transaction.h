@@ -22,8 +22,9 @@ class Transaction {
 
     // Ends the transaction early, keeping what was written.
     void Commit() noexcept;
-    // Ends it undoing what was written since it began. False when there was no transaction
-    // to undo (the statements were kept one by one) or the undo failed.
+    // Ends it undoing what was written since it began: for writes that belong together and
+    // failed half-way, or a load that kept nothing. False when there was no transaction to undo
+    // (the statements were kept one by one) or the undo failed.
     bool Rollback() noexcept;
 
   private:

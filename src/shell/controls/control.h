@@ -239,8 +239,10 @@ class Control : public Component {
 
     // Input from the skin (or a test). Each runs the matching event if one is wired.
     // A press and release of the left button go: RaiseMouseDown, then the control's own
-    // change (a list's selection, or UserClick on buttons, check boxes and option buttons),
-    // then RaiseMouseUp, so that a MouseUp handler sees the new value.
+    // change (UserClick on buttons, check boxes and option buttons), then RaiseMouseUp, so
+    // that a MouseUp handler sees the new value. A list is the exception: it selects the row
+    // under the pointer first, then raises MouseDown (and, in a drag, selects the row reached
+    // before each MouseMove), so that those handlers read the pressed row from ListIndex.
     virtual void UserClick() { RaiseClick(); }
     void RaiseClick() const;
     void RaiseDblClick() const;
