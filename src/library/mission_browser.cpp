@@ -78,6 +78,7 @@ void SetMissionBrowserTooltips(Editor& ed) {
     tip(f.optAllegiance(1), "Display only RAF Allegiance mission titles");
     tip(f.optAllegiance(2), "Display only Luftwaffe Allegiance mission titles");
     tip(f.optAllegiance(3), "Display only USAAF Allegiance mission titles");
+    tip(f.grdDataGrid, "Double click a title to load that mission");
 }
 
 namespace frm_tbl_missions {

@@ -21,18 +21,24 @@ void PlayFromSoundFolder(Editor& ed, const char* file) {
 }  // namespace
 
 void mnuAbout_Click(Editor& ed) {
-    auto& about = ed.frmAbout;
+    ed.frmAbout.ShowModal();
+}
+
+namespace frm_about {
+
+void Form_Load(Editor& ed) {
     try {
-        about.picAbout.LoadPicture(JoinPath(ed.options.MapPath, "London1.bmp"));
+        ed.frmAbout.picAbout.LoadPicture(JoinPath(ed.options.MapPath, "London1.bmp"));
     } catch (const std::exception&) {
     }
     // The engine has one volume for all sounds, so this one plays at that of sndCheckbox.
     PlayFromSoundFolder(ed, "amb9.wav");
-    about.SetVisible(true);
 }
 
+}  // namespace frm_about
+
 void picOK_Click(Editor& ed) {
-    ed.frmAbout.SetVisible(false);
+    ed.frmAbout.UnloadForm();
     PlayFromSoundFolder(ed, "exp.wav");
 
     auto& main = ed.MDIMissionED;

@@ -1,8 +1,10 @@
 #include "shell/options_menu.h"
 
 #include "ground/offsets_window.h"
+#include "library/mission_browser.h"
 #include "shell/editor.h"
 #include "shell/forms/mdi_mission_ed.h"
+#include "shell/tooltips.h"
 
 namespace tarvex {
 
@@ -70,11 +72,15 @@ void mnuAutoUpdate_Click(Editor& ed) {
 
 void mnuTooltips_Click(Editor& ed) {
     auto& entry = ed.MDIMissionED.mnuTooltips;
-    // TODO: ClearTooltips(ed) when the entry is checked, SetTooltips(ed) otherwise, and the
-    // tooltips of frmtblMissions, once the tooltip texts are in.
+    if (entry.Checked()) {
+        ClearTooltips(ed);
+    } else {
+        SetTooltips(ed);
+    }
     entry.SetChecked(!entry.Checked());
     ed.options.ToolTipsOn = entry.Checked();
     SetOffsetsTips(ed);
+    SetMissionBrowserTooltips(ed);
 }
 
 }  // namespace tarvex

@@ -35,6 +35,12 @@ struct ShellState {
 
     // frmGUOffsets was open when the main window was minimised, and was hidden for it.
     bool OffsetsHiddenByMinimise = false;
+
+    // The menu help watcher is attached once the main window is up; before that a highlighted
+    // entry writes nothing. The help of the entry last reached by the mouse waits here for
+    // tmrMenuHelp.
+    bool MenuWatcherAttached = false;
+    std::string MenuHelpText;
 };
 
 // Lowers a guard flag for the time of an operation and raises it again, also when the

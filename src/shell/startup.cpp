@@ -15,12 +15,14 @@
 #include "shell/forms/mdi_mission_ed.h"
 #include "shell/locate_file.h"
 #include "shell/measurement.h"
+#include "shell/menu_help.h"
 #include "shell/mission_form_load.h"
 #include "shell/options_menu.h"
 #include "shell/program_exit.h"
 #include "shell/recent_files.h"
 #include "shell/settings.h"
 #include "shell/sounds.h"
+#include "shell/tooltips.h"
 #include "shell/window_sizes.h"
 
 namespace tarvex {
@@ -162,7 +164,11 @@ bool LoadMainWindow(Editor& ed) {
     PlaceMissionWindow(ed);
     frm.SetVisible(true);
 
-    // TODO: SetTooltips(ed) or ClearTooltips(ed) by ToolTipsOn, once the tooltip texts are in.
+    if (o.ToolTipsOn) {
+        SetTooltips(ed);
+    } else {
+        ClearTooltips(ed);
+    }
     ApplyMeasurement(ed);
     main.mnuTooltips.SetChecked(o.ToolTipsOn);
     ShowSoundState(ed);
@@ -179,7 +185,7 @@ bool LoadMainWindow(Editor& ed) {
     StartSoundEngine(ed);
     doc.NotResetting = true;
     doc.EventsOn = true;
-    // TODO: attach the menu help watcher (scMenus) once it is in.
+    AttachMenuWatcher(ed);
     ChangeCurrentFolder(o.SimPath);
     main.SetVisible(true);
     ed.shell.MainWindowLoaded = true;

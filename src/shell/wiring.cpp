@@ -4,14 +4,18 @@
 #include "shell/editor.h"
 #include "shell/file_menu.h"
 #include "shell/forms/frm_about.h"
+#include "shell/forms/frm_mission.h"
 #include "shell/forms/frm_splash.h"
 #include "shell/forms/mdi_mission_ed.h"
 #include "shell/measurement.h"
+#include "shell/menu_help.h"
 #include "shell/options_menu.h"
 #include "shell/program_exit.h"
 #include "shell/recent_files.h"
 #include "shell/sounds.h"
 #include "shell/startup.h"
+#include "shell/summary_prompts.h"
+#include "shell/tab_strip.h"
 #include "shell/tools_menu.h"
 #include "shell/view_menu.h"
 #include "shell/wire.h"
@@ -48,7 +52,18 @@ void WireShell(Editor& ed) {
     Wire(ed, m.mnuTooltips.Click, mnuTooltips_Click);
 
     Wire(ed, m.mnuAbout.Click, mnuAbout_Click);
+    Wire(ed, ed.frmAbout.Load, frm_about::Form_Load);
     Wire(ed, ed.frmAbout.picOK.Click, picOK_Click);
+
+    WireMenus(ed, m.MenuBar(), &MenuItem::Highlight, scMenus_Highlight);
+    Wire(ed, m.tmrMenuHelp.Timer, tmrMenuHelp_Timer);
+
+    auto& frm = ed.FrmMission;
+    Wire(ed, frm.SSTab1.MouseDown, SSTab1_MouseDown);
+    Wire(ed, frm.SSTab1.OLEDragOver, SSTab1_OLEDragOver);
+    Wire(ed, frm.SSTab1.OLEDragDrop, SSTab1_OLEDragDrop);
+    Wire(ed, frm.txtDate.Click, txtDate_Click);
+    Wire(ed, frm.txtTime.Click, txtTime_Click);
 }
 
 }  // namespace tarvex

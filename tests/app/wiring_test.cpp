@@ -50,7 +50,14 @@ const char* const kHandlers[] = {
     "MDIMissionED.mnuAbout_Click",
     "frmSplash.Timer1_Timer",
     "frmSplash.picSplash_Click",
+    "frmAbout.Form_Load",
     "frmAbout.picOK_Click",
+    "MDIMissionED.tmrMenuHelp_Timer",
+    "FrmMission.SSTab1_MouseDown",
+    "FrmMission.SSTab1_OLEDragOver",
+    "FrmMission.SSTab1_OLEDragDrop",
+    "FrmMission.txtDate_Click",
+    "FrmMission.txtTime_Click",
     // The maps.
     "FrmMission.mapWayPoints_Paint",
     "FrmMission.mapWayPoints_MouseMove",
@@ -156,7 +163,7 @@ const char* const kHandlers[] = {
     "FrmMission.mapGroundUnits_MouseDown",
     "FrmMission.mapGroundUnits_MouseMove",
     "FrmMission.mapGroundUnits_MouseUp",
-    "FrmMission.lstGrnUnits_MouseUp",
+    "FrmMission.lstGrnUnits_MouseDown",
     "FrmMission.btnDelGUlst_Click",
     "FrmMission.cmbGrndAirfield_Click",
     "FrmMission.cmbAirfieldLayout_Click",
@@ -337,6 +344,20 @@ TEST(WiringTest, EveryHandlerRunsOnItsEvent) {
             EXPECT_TRUE(slot->Connected()) << "element " << target->Index();
         }
     }
+}
+
+// The help line watches every entry of the menus, those of the bar and of the submenus too.
+void ExpectHighlightsWatched(const std::vector<MenuItem*>& entries) {
+    for (const MenuItem* entry : entries) {
+        EXPECT_TRUE(entry->Highlight.Connected()) << entry->Name();
+        ExpectHighlightsWatched(entry->Children());
+    }
+}
+
+TEST(WiringTest, EveryMenuEntryIsWatchedForTheHelpLine) {
+    ScriptedServices services;
+    auto editor = MakeEditor(services.Bind());
+    ExpectHighlightsWatched(editor->MDIMissionED.MenuBar());
 }
 
 }  // namespace

@@ -24,21 +24,36 @@ TEST(MainWindowAboutTest, BoxPlaysOnlyWithSoundOnAndTheWindowComesBackWhereItWas
         ed.options.SoundOn = soundOn;
         auto& main = ed.MDIMissionED;
         main.Move(300, 400, 9500, 7296);
-        std::vector<float> widths;
-        t.clock.onDoEvents = [&] { widths.push_back(main.Width()); };
+        std::vector<Place> steps;
+        t.clock.onDoEvents = [&] {
+            steps.push_back({main.Left(), main.Top(), main.Width(), main.Height()});
+        };
 
-        main.mnuAbout.UserClick();
-        EXPECT_TRUE(ed.frmAbout.Visible());
-        ed.frmAbout.picOK.UserClick();
-        EXPECT_FALSE(ed.frmAbout.Visible());
+        // Each opening loads the box afresh, with its sound.
+        for (int opening = 0; opening < 2; ++opening) {
+            main.mnuAbout.UserClick();
+            EXPECT_TRUE(ed.frmAbout.Visible());
+            EXPECT_TRUE(ed.frmAbout.Modal());
+            ed.frmAbout.picOK.UserClick();
+            EXPECT_FALSE(ed.frmAbout.Visible());
+            EXPECT_FALSE(ed.frmAbout.Modal());
+        }
 
         EXPECT_EQ(t.sound.loads,
-                  (std::vector<std::string>{"/sim/sound/amb9.wav", "/sim/sound/exp.wav"}));
-        EXPECT_EQ(t.sound.plays.size(), soundOn ? 2u : 0u);
-        // The window grows from 12 twips wide in steps of 500 up to 9012, then is put back.
-        ASSERT_EQ(widths.size(), 19u);
-        EXPECT_EQ(widths.front(), 12);
-        EXPECT_EQ(widths.back(), 9012);
+                  (std::vector<std::string>{"/sim/sound/amb9.wav", "/sim/sound/exp.wav",
+                                            "/sim/sound/amb9.wav", "/sim/sound/exp.wav"}));
+        EXPECT_EQ(t.sound.plays.size(), soundOn ? 4u : 0u);
+        // From the centre, 12 twips wide and 13 high, the window grows by 500 and 366 a step
+        // while it moves up and left, 19 steps to 9012 twips; then it is put back.
+        ASSERT_EQ(steps.size(), 38u);
+        for (int k = 1; k <= 19; ++k) {
+            SCOPED_TRACE("step " + std::to_string(k));
+            const Place& step = steps[k - 1];
+            EXPECT_EQ(step.left, 300 + 9500 / 2 - 250 * k);
+            EXPECT_EQ(step.top, 400 + 7296 / 2 - 188 * k);
+            EXPECT_EQ(step.width, 12 + 500 * (k - 1));
+            EXPECT_EQ(step.height, 366 * k);
+        }
         EXPECT_EQ(main.Left(), 300);
         EXPECT_EQ(main.Top(), 400);
         EXPECT_EQ(main.Width(), 9500);

@@ -110,6 +110,21 @@ TEST(StartupOrderTest, LaterRunComesUpWithItsSettingsApplied) {
     EXPECT_TRUE(in.t.dialogs.messages.empty());
 }
 
+TEST(StartupOrderTest, TooltipsFollowTheirSettingAndTheMenuHelpIsWatchedOnceUp) {
+    for (const bool on : {true, false}) {
+        Installation in;
+        in.Store("ToolTips On", on ? "True" : "False");
+        Editor& ed = *in.t;
+        ASSERT_TRUE(StartProgram(ed, "", true));
+        EXPECT_EQ(ed.FrmMission.txtTitle.ToolTipText(),
+                  on ? "The title is displayed on the Single Mission dialog box and on the Mission "
+                       "Briefing screen."
+                     : "");
+        EXPECT_EQ(ed.MDIMissionED.mnuTooltips.Checked(), on);
+        EXPECT_TRUE(ed.shell.MenuWatcherAttached);
+    }
+}
+
 TEST(StartupOrderTest, SplashWaitsForItsTimerOrAClickWhicheverComesFirst) {
     Installation in;
     Editor& ed = *in.t;

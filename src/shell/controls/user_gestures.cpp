@@ -285,7 +285,8 @@ void UserReleaseRow(ListBox& list, int row, int button, int shift) {
 }
 
 void UserPressTab(TabControl& strip, int tab, int button, int shift, float x, float y) {
-    if (tab >= 0 && tab < strip.Tabs() && tab != strip.Tab() && strip.TabEnabled(tab))
+    if (button == kLeftButton && tab >= 0 && tab < strip.Tabs() && tab != strip.Tab() &&
+        strip.TabEnabled(tab))
         strip.SetTab(tab);
     strip.RaiseMouseDown(button, shift, x, y);
 }

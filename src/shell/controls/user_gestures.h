@@ -31,8 +31,8 @@ void UserReleaseRow(ListBox& list, int row, int button, int shift);
 // Where a press on a row is reported, in the list's map units, from its top.
 float RowMiddle(const ListBox& list, int row);
 
-// A press on the header of `tab`: the strip shows that page first when it is another, enabled
-// one; then MouseDown at (x, y), which lies in the header strip.
+// A press on the header of `tab`: with the left button the strip shows that page first when
+// it is another, enabled one; then MouseDown at (x, y), which lies in the header strip.
 void UserPressTab(TabControl& strip, int tab, int button, int shift, float x, float y);
 
 // A key pressed and released on a control: KeyDown, where a handler that sets the code to 0

@@ -76,14 +76,26 @@ void Form::Show() {
     SetVisible(true);
 }
 
+void Form::ShowModal() {
+    if (!modal_) {
+        modal_ = true;
+        Notify(Aspect::Appearance);
+    }
+    Show();
+}
+
 void Form::UnloadForm() {
     if (!loaded_) {
         SetVisible(false);
-        return;
+    } else {
+        Unload();
+        loaded_ = false;
+        SetVisible(false);
     }
-    Unload();
-    loaded_ = false;
-    SetVisible(false);
+    if (modal_) {
+        modal_ = false;
+        Notify(Aspect::Appearance);
+    }
 }
 
 void Form::UserClose() {

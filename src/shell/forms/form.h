@@ -61,6 +61,11 @@ class Form : public CaptionControl {
     // The skin reports a new size of the window; Resize runs after it is stored.
     void UserResize(float width, float height);
 
+    // Shows the window modally: the desktop keeps the user to it until it unloads. The code
+    // that shows it goes on at once.
+    void ShowModal();
+    bool Modal() const { return modal_; }
+
     // A window that floats over the main window and stays on top of the others, without
     // holding the rest of the program up.
     bool TopMost() const { return topMost_; }
@@ -174,6 +179,7 @@ class Form : public CaptionControl {
 
     bool loaded_ = false;
     bool topMost_ = false;
+    bool modal_ = false;
     struct Registered {
         std::string name;
         Component* single = nullptr;

@@ -22,6 +22,9 @@ MDIMissionED::MDIMissionED() : Form("MDIMissionED"), mnudummy(0, 4) {
     // The status strip keeps to the bottom edge over the whole width.
     constexpr float kStripHeight = 330;
     Add(NAMED(Picture1), Self(), {0, Height() - kStripHeight, Width(), kStripHeight});
+    Add(NAMED(tmrMenuHelp));
+    tmrMenuHelp.SetEnabled(false);
+    tmrMenuHelp.SetInterval(1);
 
     // The names first, in menu order, so that the register lists the entries as the bar does.
     Add(NAMED(mnuFile));

@@ -15,6 +15,8 @@ class MDIMissionED : public Form {
 
     // The status strip.
     PictureSurface Picture1;
+    // Writes the help of a highlighted menu entry once the menu has taken the highlight.
+    Timer tmrMenuHelp;
 
     MenuItem mnuFile;
     MenuItem mnuNew;
