@@ -5,7 +5,7 @@
 
 #include "app/make_editor.h"
 #include "maps/tab_selection.h"
-#include "qt/binders.h"
+#include "qt/binding.h"
 #include "qt/editor_window.h"
 #include "shell/startup.h"
 

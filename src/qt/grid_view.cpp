@@ -2,7 +2,7 @@
 
 #include <QHeaderView>
 
-#include "qt/binders.h"
+#include "qt/binding.h"
 
 namespace tarvex::qt {
 

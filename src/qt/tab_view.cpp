@@ -2,12 +2,11 @@
 
 #include <QDragEnterEvent>
 #include <QDropEvent>
-#include <QMimeData>
 #include <QMouseEvent>
 #include <QTabBar>
-#include <QUrl>
 
-#include "qt/binders.h"
+#include "qt/binding.h"
+#include "qt/input_codes.h"
 
 namespace tarvex::qt {
 
@@ -27,22 +26,6 @@ class TabBinding : public ControlBinding {
   private:
     TabView* view_;
 };
-
-DragData DragDataOf(const QMimeData* mime) {
-    DragData data;
-    if (mime && mime->hasUrls()) {
-        for (const QUrl& url : mime->urls())
-            if (url.isLocalFile()) data.files.push_back(url.toLocalFile().toStdString());
-        data.hasFiles = !data.files.empty();
-    }
-    return data;
-}
-
-int ShiftOf(Qt::KeyboardModifiers modifiers) {
-    return ((modifiers & Qt::ShiftModifier) ? kShiftMask : 0) |
-           ((modifiers & Qt::ControlModifier) ? kCtrlMask : 0) |
-           ((modifiers & Qt::AltModifier) ? kAltMask : 0);
-}
 
 }  // namespace
 
@@ -89,9 +72,7 @@ bool TabView::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::MouseButtonPress && event->type() != QEvent::MouseButtonRelease)
         return false;
     auto* mouse = static_cast<QMouseEvent*>(event);
-    const int button = mouse->button() == Qt::LeftButton    ? kLeftButton
-                       : mouse->button() == Qt::RightButton ? kRightButton
-                                                            : kMiddleButton;
+    const int button = ButtonOf(mouse->button());
     const int shift = ShiftOf(mouse->modifiers());
     float x = Twips(mouse->position().x());
     float y;

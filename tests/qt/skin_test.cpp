@@ -22,11 +22,12 @@
 #include <vector>
 
 #include "platform/scripted_platform.h"
-#include "qt/binders.h"
+#include "qt/binding.h"
 #include "qt/editor_session.h"
 #include "qt/editor_window.h"
 #include "qt/form_view.h"
 #include "qt/services.h"
+#include "qt/widget_factory.h"
 #include "shell/forms/frm_aircraft.h"
 #include "shell/forms/frm_mission.h"
 #include "shell/forms/mdi_mission_ed.h"

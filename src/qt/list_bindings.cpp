@@ -1,0 +1,165 @@
+#include "qt/list_bindings.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QTimer>
+#include <functional>
+#include <vector>
+
+#include "qt/binding.h"
+#include "qt/qt_text.h"
+
+namespace tarvex::qt {
+
+namespace {
+
+class ListBinding : public ControlBinding {
+  public:
+    ListBinding(ListBox& model, QListWidget* list, QPointF origin)
+        : ControlBinding(model, list, origin), model_(model), list_(list) {
+        WatchChild(list->viewport());
+        list->setUniformItemSizes(true);
+        connect(list, &QListWidget::currentRowChanged, this, [this](int row) {
+            if (Syncing() || model_.MultiSelect() != kMultiSelectNone) return;
+            Guarded([&] { model_.SetListIndex(row); });
+            SyncAll();
+        });
+        connect(list, &QListWidget::itemSelectionChanged, this, [this] {
+            if (Syncing() || model_.MultiSelect() == kMultiSelectNone) return;
+            std::vector<int> rows;
+            for (int i = 0; i < list_->count(); ++i)
+                if (list_->item(i)->isSelected()) rows.push_back(i);
+            Guarded([&] { model_.SetSelection(rows, list_->currentRow()); });
+            SyncAll();
+        });
+    }
+
+  protected:
+    void Sync(Aspect aspect) override {
+        if (aspect == Aspect::Rows) {
+            list_->clear();
+            for (int i = 0; i < model_.ListCount(); ++i)
+                list_->addItem(Q(model_.List(i)));
+        }
+        if (aspect == Aspect::Rows || aspect == Aspect::Selection) {
+            list_->setSelectionMode(model_.MultiSelect() == kMultiSelectNone
+                                        ? QAbstractItemView::SingleSelection
+                                    : model_.MultiSelect() == kMultiSelectSimple
+                                        ? QAbstractItemView::MultiSelection
+                                        : QAbstractItemView::ExtendedSelection);
+            if (model_.MultiSelect() == kMultiSelectNone) {
+                list_->setCurrentRow(model_.ListIndex());
+                if (model_.ListIndex() < 0) list_->clearSelection();
+            } else {
+                list_->setCurrentRow(model_.ListIndex(), QItemSelectionModel::NoUpdate);
+                for (int i = 0; i < list_->count(); ++i)
+                    list_->item(i)->setSelected(model_.Selected(i));
+            }
+            if (QListWidgetItem* top = list_->item(model_.TopIndex()))
+                list_->scrollToItem(top, QAbstractItemView::PositionAtTop);
+        }
+        ControlBinding::Sync(aspect);
+    }
+    bool PaintsBackColour() const override { return true; }
+
+  private:
+    ListBox& model_;
+    QListWidget* list_;
+};
+
+// Tells when its list opens and closes, which QComboBox keeps to itself.
+class DropComboBox : public QComboBox {
+  public:
+    using QComboBox::QComboBox;
+    std::function<void()> onShow;
+    std::function<void()> onHide;
+    bool PopupOpen() const { return open_; }
+    void showPopup() override {
+        open_ = true;
+        if (onShow) onShow();
+        QComboBox::showPopup();
+    }
+    void hidePopup() override {
+        QComboBox::hidePopup();
+        open_ = false;
+        if (onHide) onHide();
+    }
+
+  private:
+    bool open_ = false;
+};
+
+class ComboBinding : public ControlBinding {
+  public:
+    ComboBinding(ComboBox& model, DropComboBox* combo, QPointF origin)
+        : ControlBinding(model, combo, origin), model_(model), combo_(combo) {
+        connect(combo, &QComboBox::highlighted, this, [this](int row) {
+            if (Syncing() || !combo_->PopupOpen()) return;
+            Guarded([&] { model_.UserHighlight(row); });
+        });
+        connect(combo, &QComboBox::activated, this, [this](int row) {
+            if (Syncing()) return;
+            Guarded([&] { model_.UserChoose(row); });
+            SyncAll();
+        });
+        // A list closed without a choice puts the row from before back. The choice, when
+        // there is one, arrives right after the list closes, so look once it had its turn.
+        combo->onHide = [this] {
+            QTimer::singleShot(0, this, [this] {
+                if (!model_.DroppedDown()) return;
+                Guarded([&] { model_.UserCancelDrop(); });
+                SyncAll();
+            });
+        };
+    }
+
+  protected:
+    void Sync(Aspect aspect) override {
+        if (aspect == Aspect::Appearance) {
+            const bool editable = model_.Style() != kComboDropDownList;
+            if (combo_->isEditable() != editable) {
+                combo_->setEditable(editable);
+                if (editable) WireEdit();
+            }
+        }
+        if (aspect == Aspect::Rows) {
+            combo_->clear();
+            for (int i = 0; i < model_.ListCount(); ++i)
+                combo_->addItem(Q(model_.List(i)));
+        }
+        if (aspect == Aspect::Rows || aspect == Aspect::Selection || aspect == Aspect::Text ||
+            aspect == Aspect::Appearance) {
+            combo_->setCurrentIndex(model_.ListIndex());
+            if (combo_->isEditable() && combo_->currentText() != Q(model_.Text()))
+                combo_->setEditText(Q(model_.Text()));
+        }
+        ControlBinding::Sync(aspect);
+    }
+    bool PaintsBackColour() const override { return true; }
+
+  private:
+    void WireEdit() {
+        QLineEdit* edit = combo_->lineEdit();
+        if (!edit) return;
+        WatchChild(edit);
+        connect(edit, &QLineEdit::textEdited, this, [this](const QString& text) {
+            if (Syncing()) return;
+            Guarded([&] { model_.SetText(text.toStdString()); });
+        });
+    }
+    ComboBox& model_;
+    DropComboBox* combo_;
+};
+
+}  // namespace
+
+ControlBinding* BindList(ListBox& model, QWidget* parent, QPointF origin) {
+    return new ListBinding(model, new QListWidget(parent), origin);
+}
+
+ControlBinding* BindCombo(ComboBox& model, QWidget* parent, QPointF origin) {
+    return new ComboBinding(model, new DropComboBox(parent), origin);
+}
+
+}  // namespace tarvex::qt
