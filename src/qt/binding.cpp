@@ -75,11 +75,12 @@ void Guarded(const std::function<void()>& call) {
     try {
         call();
     } catch (const std::exception& error) {
-        if (FailureReport()) {
-            FailureReport()(error);
-        } else {
-            qWarning("tarvex: unhandled error in an event: %s", error.what());
+        try {
+            if (FailureReport()) return FailureReport()(error);
+        } catch (const std::exception& inReport) {
+            qWarning("tarvex: the error box failed: %s", inReport.what());
         }
+        qWarning("tarvex: unhandled error in an event: %s", error.what());
     }
 }
 
