@@ -34,7 +34,8 @@ void WriteFormationSections(Editor& ed, FileText& out) {
         SharedQuery q(
             ed, "SELECT frmID, frmX,frmY,frmZ FROM frmPatterns Where frmID=" + IntText(pattern));
         q.rs.MoveFirst();
-        for (int i = 0; !q.rs.Eof() && !doc.PilotName(g, i).empty(); ++i) {
+        for (int i = 0; !q.rs.Eof() && i <= Mission::kPilotUpper && !doc.PilotName(g, i).empty();
+             ++i) {
             out.Line("unit_id_position." + IntText(i) + "=" + IntText(1000 + 20 * g + i) + "," +
                      IntText(doc.PilotLevel(g, i)) + "," + q.rs.Fields(1).Text() + ".0," +
                      q.rs.Fields(2).Text() + ".0," + q.rs.Fields(3).Text() + ".0");

@@ -40,7 +40,7 @@ void WriteGroupsAndPilots(Editor& ed, FileText& out) {
                  NumberField(frm.cmbTakeoffFlag.ItemData(doc.GrpTakeoffFlag(g))) + ";" +
                  NumberField(frm.cmbRunways.ItemData(doc.GrpTakeoffRwy(g))) + ";" +
                  NumberField(frm.cmbRunways.ItemData(doc.GrpLandingRwy(g))));
-        for (int p = 0; !doc.PilotName(g, p).empty(); ++p)
+        for (int p = 0; p <= Mission::kPilotUpper && !doc.PilotName(g, p).empty(); ++p)
             out.Line(";;;;;;" + NumberField(1000 + 20 * g + p) + ";" + doc.PilotName(g, p) + ";" +
                      NumberField(doc.PilotAC(g, p)) + ";" +
                      NumberField(frm.cmbSkill.ItemData(doc.PilotSkill(g, p))) + ";" +

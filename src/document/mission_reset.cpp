@@ -83,15 +83,8 @@ void ResetDocumentArrays(Editor& ed) {
         doc.GrpPilotIsAC(g) = 0;
         doc.GrpDirective(g) = 1;
         doc.GrpPaths(g).clear();
-        for (int k = 0; k <= Mission::kPilotUpper; ++k) {
-            doc.PilotName(g, k).clear();
-            doc.PilotSkill(g, k) = Mission::kUnsetPilotValue;
-            doc.PilotLevel(g, k) = Mission::kUnsetPilotValue;
-            doc.PilotDamage(g, k) = Mission::kUnsetPilotValue;
-            doc.PilotAC(g, k) = Mission::kUnsetPilotValue;
-            doc.PilotIsPlayer(g, k) = 0;
-            doc.PilotPoints(g, k) = 0;
-        }
+        for (int k = 0; k <= Mission::kPilotUpper; ++k)
+            ClearPilotSlot(doc, g, k);
     }
 
     for (int l = 0; l <= Mission::kLayoutUpper; ++l) {
@@ -136,6 +129,16 @@ void ResetDocumentArrays(Editor& ed) {
 
     SelectTab(ed, frm.SSTab1.Tab());
     ShowSummaryTab(ed);
+}
+
+void ClearPilotSlot(Mission& doc, int group, int pilot) {
+    doc.PilotName(group, pilot).clear();
+    doc.PilotSkill(group, pilot) = Mission::kUnsetPilotValue;
+    doc.PilotLevel(group, pilot) = Mission::kUnsetPilotValue;
+    doc.PilotDamage(group, pilot) = Mission::kUnsetPilotValue;
+    doc.PilotAC(group, pilot) = Mission::kUnsetPilotValue;
+    doc.PilotIsPlayer(group, pilot) = 0;
+    doc.PilotPoints(group, pilot) = 0;
 }
 
 void EnableGroupControls(Editor& ed, bool on) {

@@ -3,6 +3,7 @@
 namespace tarvex {
 
 class Editor;
+struct Mission;
 
 // Empties the lists, puts the summary defaults in, resets the scalars and the arrays, and
 // shows the current tab again.
@@ -13,6 +14,9 @@ void SetSummaryDefaults(Editor& ed);
 
 // The array part of a reset, ending in the controls' start rows and the current tab.
 void ResetDocumentArrays(Editor& ed);
+
+// A pilot slot without a pilot: no name, 255 in the values a selection fills in, no marks.
+void ClearPilotSlot(Mission& doc, int group, int pilot);
 
 // Enabled states of the group editor, the pilot editor and the pilot list.
 void EnableGroupControls(Editor& ed, bool on);

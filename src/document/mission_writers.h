@@ -35,12 +35,12 @@ std::int32_t FileSpeed(std::int16_t speed, bool metric);
 // ---- Shared by the writers -------------------------------------------------------------
 
 // Calls fn(group, pilot) for each pilot of each group of lstGroupName, a group's pilots
-// ending at the first empty name.
+// ending at the first empty name or at its last slot.
 template <typename Fn>
 void ForEachPilot(Editor& ed, Fn fn) {
     const int groups = ed.FrmMission.lstGroupName.ListCount();
     for (int g = 0; g < groups; ++g)
-        for (int p = 0; !ed.doc.PilotName(g, p).empty(); ++p)
+        for (int p = 0; p <= Mission::kPilotUpper && !ed.doc.PilotName(g, p).empty(); ++p)
             fn(g, p);
 }
 

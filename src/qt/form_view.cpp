@@ -140,6 +140,10 @@ void FormView::SyncForm() {
         return;
     }
     QWidget* top = window();
+    // A top-most window floats over the others; changing the kind hides it until shown below.
+    if (mode_ == Mode::Window &&
+        top->windowFlags().testFlag(Qt::WindowStaysOnTopHint) != form_.TopMost())
+        top->setWindowFlags(form_.TopMost() ? Qt::Tool | Qt::WindowStaysOnTopHint : Qt::Window);
     top->setWindowTitle(QString::fromStdString(form_.Caption()));
     top->move(Px(form_.Left()), Px(form_.Top()));
     if (form_.Width() > 0 && form_.Height() > 0) top->resize(Px(form_.Width()), Px(form_.Height()));

@@ -3,7 +3,11 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QScreen>
+#include <QScrollBar>
+#include <QStyledItemDelegate>
 #include <QTimer>
+#include <algorithm>
 #include <functional>
 #include <vector>
 
@@ -14,12 +18,34 @@ namespace tarvex::qt {
 
 namespace {
 
+// Rows of the height the model gives, so that a row under the pointer is found from Y.
+class RowHeightDelegate : public QStyledItemDelegate {
+  public:
+    RowHeightDelegate(const ListBox& model, QObject* parent)
+        : QStyledItemDelegate(parent), model_(model) {}
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        QSize size = QStyledItemDelegate::sizeHint(option, index);
+        if (model_.RowHeight() > 0) size.setHeight(Px(model_.RowHeight()));
+        return size;
+    }
+
+  private:
+    const ListBox& model_;
+};
+
 class ListBinding : public ControlBinding {
   public:
     ListBinding(ListBox& model, QListWidget* list, QPointF origin)
         : ControlBinding(model, list, origin), model_(model), list_(list) {
         WatchChild(list->viewport());
         list->setUniformItemSizes(true);
+        list->setItemDelegate(new RowHeightDelegate(model, list));
+        // The first row shown is the model's TopIndex, however the list was scrolled.
+        connect(list->verticalScrollBar(), &QScrollBar::valueChanged, this, [this] {
+            if (Syncing()) return;
+            const int top = list_->indexAt(QPoint(1, 1)).row();
+            if (top >= 0) Guarded([&] { model_.SetTopIndex(top); });
+        });
         connect(list, &QListWidget::currentRowChanged, this, [this](int row) {
             if (Syncing() || model_.MultiSelect() != kMultiSelectNone) return;
             Guarded([&] { model_.SetListIndex(row); });
@@ -73,12 +99,14 @@ class DropComboBox : public QComboBox {
   public:
     using QComboBox::QComboBox;
     std::function<void()> onShow;
+    std::function<void()> onShown;
     std::function<void()> onHide;
     bool PopupOpen() const { return open_; }
     void showPopup() override {
         open_ = true;
         if (onShow) onShow();
         QComboBox::showPopup();
+        if (onShown) onShown();
     }
     void hidePopup() override {
         QComboBox::hidePopup();
@@ -103,6 +131,9 @@ class ComboBinding : public ControlBinding {
             Guarded([&] { model_.UserChoose(row); });
             SyncAll();
         });
+        // The model may make the list taller; it then opens upwards, over the combo.
+        combo->onShow = [this] { Guarded([&] { model_.UserOpenDrop(); }); };
+        combo->onShown = [this] { ScalePopup(); };
         // A list closed without a choice puts the row from before back. The choice, when
         // there is one, arrives right after the list closes, so look once it had its turn.
         combo->onHide = [this] {
@@ -139,6 +170,16 @@ class ComboBinding : public ControlBinding {
     bool PaintsBackColour() const override { return true; }
 
   private:
+    void ScalePopup() {
+        const float scale = model_.DropDownScale();
+        QWidget* popup = combo_->view()->window();
+        if (scale <= 0 || !popup) return;
+        // Its bottom stays at the combo's top; a list taller than the room above is cut.
+        const int bottom = combo_->mapToGlobal(QPoint(0, 0)).y();
+        const int screenTop = combo_->screen()->availableGeometry().top();
+        const int height = std::min(qRound(popup->height() * scale), bottom - screenTop);
+        popup->setGeometry(popup->x(), bottom - height, popup->width(), height);
+    }
     void WireEdit() {
         QLineEdit* edit = combo_->lineEdit();
         if (!edit) return;

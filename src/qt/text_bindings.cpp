@@ -1,6 +1,7 @@
 #include "qt/text_bindings.h"
 
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <algorithm>
 
@@ -37,6 +38,14 @@ class LineEditBinding : public ControlBinding {
     }
 
   protected:
+    // A click in the box, after its press and release, as the desktop's text box raises it.
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        const bool click = event->type() == QEvent::MouseButtonRelease &&
+                           static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
+        const bool handled = ControlBinding::eventFilter(watched, event);
+        if (click && Widget()) Guarded([this] { model_.RaiseClick(); });
+        return handled;
+    }
     void ReportSelection() {
         if (Syncing()) return;
         const int start =

@@ -191,6 +191,7 @@ TEST_F(SkinTest, UserChoicesAndCodeSelectionsAreOneEvent) {
     auto* list = qobject_cast<QListWidget*>(Widget("lstGroupName"));
     ASSERT_NE(list, nullptr);
     int listClicks = 0;
+    frm.lstGroupName.Click.Disconnect();
     frm.lstGroupName.Click.Connect([&] { ++listClicks; });
     frm.lstGroupName.AddItem("Alpha");
     frm.lstGroupName.AddItem("Bravo");
@@ -265,6 +266,45 @@ TEST_F(SkinTest, SharedFramesFollowTheTabOnShow) {
             EXPECT_EQ(airfields->parentWidget(), tabs->widget(c.tab));
         }
     }
+}
+
+TEST_F(SkinTest, NewRecordFloatsOverTheMainWindowAndAddsToTheGroupList) {
+    auto& frm = session->ed().FrmMission;
+    session->ShowTab(1);
+    QApplication::processEvents();
+    QTest::mouseClick(Widget("btnGroupName"), Qt::LeftButton);
+    QApplication::processEvents();
+    FormView* dialog = session->window().FormWindow("frmNewRecord");
+    ASSERT_NE(dialog, nullptr);
+    QWidget* window = dialog->window();
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_TRUE(window->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+    EXPECT_EQ(window->windowType(), Qt::Tool);
+    EXPECT_FALSE(window->isModal());
+    EXPECT_EQ(window->windowTitle(), "Enter Group Name");
+
+    auto* box = qobject_cast<QLineEdit*>(dialog->WidgetOf("txtNewRecord"));
+    ASSERT_NE(box, nullptr);
+    // A click in the box keeps what is typed there from now on.
+    QTest::mouseClick(box, Qt::LeftButton);
+    box->selectAll();
+    QTest::keyClicks(box, "Top Cover");
+    QTest::mouseClick(dialog->WidgetOf("btnAddRecord"), Qt::LeftButton);
+    auto* groups = qobject_cast<QListWidget*>(Widget("lstGroupName"));
+    ASSERT_NE(groups, nullptr);
+    ASSERT_EQ(groups->count(), 1);
+    EXPECT_EQ(groups->item(0)->text(), "Top Cover");
+    EXPECT_EQ(frm.lstGroupName.ListIndex(), 0);
+    EXPECT_EQ(box->text(), "Top Cover");
+    // Not modal: the main window's rows take clicks while the dialog stays open.
+    QTest::mouseClick(dialog->WidgetOf("btnAddRecord"), Qt::LeftButton);
+    ASSERT_EQ(groups->count(), 2);
+    QTest::mouseClick(groups->viewport(), Qt::LeftButton, {},
+                      groups->visualItemRect(groups->item(0)).center());
+    EXPECT_EQ(frm.lstGroupName.ListIndex(), 0);
+    EXPECT_TRUE(window->isVisible());
+    QTest::mouseClick(dialog->WidgetOf("btnCancel"), Qt::LeftButton);
+    EXPECT_FALSE(window->isVisible());
 }
 
 TEST_F(SkinTest, WidgetsStandWhereTheirModelsSay) {

@@ -130,6 +130,22 @@ TEST(ListBoxTest, ExtendedSelectionKeepsRowFlagsAndFiresOncePerUserSelection) {
     EXPECT_EQ(clicks, 3);
 }
 
+// The row under a point counts from the first row shown; a cleared list shows its top again.
+TEST(ListBoxTest, RowUnderThePointerFollowsTheTopRow) {
+    ListBox list;
+    Fill(list, {"a", "b", "c", "d", "e"});
+    EXPECT_EQ(list.RowAt(100), -1);  // no row height: the desktop's own rows
+    list.SetRowHeight(190);
+    list.SetTopIndex(2);
+    EXPECT_EQ(list.RowAt(0), 2);
+    EXPECT_EQ(list.RowAt(189), 2);
+    EXPECT_EQ(list.RowAt(190), 3);
+    list.Clear();
+    Fill(list, {"x", "y"});
+    EXPECT_EQ(list.TopIndex(), 0);
+    EXPECT_EQ(list.RowAt(200), 1);
+}
+
 TEST(ComboBoxTest, TextFollowsTheRowAndFiresTheRightEvent) {
     ComboBox combo("cmbPilotName");
     Fill(combo, {"Alpha", "Bravo"});

@@ -52,6 +52,17 @@ void ComboBox::MoveQuietly(int row) {
     Notify(Aspect::Selection);
 }
 
+void ComboBox::UserOpenDrop() {
+    if (DropDown) DropDown();
+}
+
+void ComboBox::SetDropDownScale(float scale) {
+    if (scale < 0) Raise(kErrInvalidProperty);
+    if (scale == dropDownScale_) return;
+    dropDownScale_ = scale;
+    Notify(Aspect::Appearance);
+}
+
 void ComboBox::UserHighlight(int row) {
     if (rowBeforeDrop_ == kNotDropped) rowBeforeDrop_ = listIndex_;
     MoveQuietly(row);
@@ -76,6 +87,7 @@ void ComboBox::UserCancelDrop() {
 void ComboBox::ListEvents(std::vector<NamedEvent>& out) const {
     ListControl::ListEvents(out);
     out.push_back({"Change", &Change});
+    out.push_back({"DropDown", &DropDown});
     out.push_back({"Highlight", &Highlight});
     out.push_back({"UserPick", &UserPick});
 }

@@ -31,12 +31,20 @@ class ComboBox : public ListControl {
 
     void Clear() override;
 
+    // The list is about to drop down: DropDown runs, so that a handler can set its scale.
+    void UserOpenDrop();
     void UserHighlight(int row);
     void UserChoose(int row);
     void UserCancelDrop();
     bool DroppedDown() const { return rowBeforeDrop_ != kNotDropped; }
 
+    // The factor on the height of the drop-down list; above 0 the list is that much taller and
+    // opens upwards, 0 gives the desktop's list. A negative factor raises error 380.
+    float DropDownScale() const { return dropDownScale_; }
+    void SetDropDownScale(float scale);
+
     Event<> Change;
+    Event<> DropDown;
     Event<int> Highlight;  // the row under the pointer
     Event<> UserPick;
 
@@ -53,6 +61,7 @@ class ComboBox : public ListControl {
     int style_ = kComboDropDown;
     std::string text_;
     int rowBeforeDrop_ = kNotDropped;
+    float dropDownScale_ = 0;
 };
 
 }  // namespace tarvex

@@ -1,6 +1,7 @@
 #include "shell/controls/list_box.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "common/error.h"
 
@@ -26,6 +27,11 @@ void ListBox::SelectedTextChanged() {
     if (!MultiSelecting() && listIndex_ == -1)
         for (Row& row : rows_)
             row.selected = false;
+}
+
+void ListBox::Clear() {
+    topIndex_ = 0;
+    ListControl::Clear();
 }
 
 void ListBox::SetMultiSelect(int mode) {
@@ -65,6 +71,13 @@ int ListBox::SelCount() const {
         std::count_if(rows_.begin(), rows_.end(), [](const Row& r) { return r.selected; }));
 }
 
+std::vector<int> ListBox::SelectedRows() const {
+    std::vector<int> rows;
+    for (int i = 0; i < ListCount(); ++i)
+        if (Selected(i)) rows.push_back(i);
+    return rows;
+}
+
 void ListBox::SetSelection(const std::vector<int>& rows, int focusRow) {
     if (focusRow < -1 || focusRow >= ListCount()) Raise(kErrInvalidProperty);
     for (int row : rows)
@@ -96,6 +109,18 @@ void ListBox::SetTopIndex(int index) {
     if (index == topIndex_) return;
     topIndex_ = index;
     Notify(Aspect::Selection);
+}
+
+void ListBox::SetRowHeight(float height) {
+    if (height < 0) Raise(kErrInvalidProperty);
+    if (height == rowHeight_) return;
+    rowHeight_ = height;
+    Notify(Aspect::Appearance);
+}
+
+int ListBox::RowAt(float y) const {
+    if (rowHeight_ <= 0) return -1;
+    return TopIndex() + static_cast<int>(std::floor(y / rowHeight_));
 }
 
 }  // namespace tarvex

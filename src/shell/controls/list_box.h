@@ -16,6 +16,9 @@ class ListBox : public ListControl {
   public:
     using ListControl::ListControl;
 
+    // Also shows the list from its top again.
+    void Clear() override;
+
     int MultiSelect() const { return multiSelect_; }
     // Switching the mode drops every selection but the ListIndex row's.
     void SetMultiSelect(int mode);
@@ -24,6 +27,8 @@ class ListBox : public ListControl {
     bool Selected(int index) const;
     void SetSelected(int index, bool selected);
     int SelCount() const;
+    // The selected rows, in order.
+    std::vector<int> SelectedRows() const;
     // The user's selection in one step (a click, shift-click or drag over rows): exactly these
     // rows selected and the focus on focusRow. Fires Click once when anything changed.
     void SetSelection(const std::vector<int>& rows, int focusRow);
@@ -37,6 +42,14 @@ class ListBox : public ListControl {
     int TopIndex() const;
     void SetTopIndex(int index);
 
+    // The height of a row in map units; 0 leaves it to the desktop. With a height, the row
+    // under a point of the list is TopIndex + Y / RowHeight.
+    float RowHeight() const { return rowHeight_; }
+    void SetRowHeight(float height);
+    // The row under Y (map units from the list's top), whether or not it holds a row; -1 when
+    // the list has no row height.
+    int RowAt(float y) const;
+
   protected:
     void StoreListIndex(int index) override;
     void SelectedTextChanged() override;
@@ -45,6 +58,7 @@ class ListBox : public ListControl {
   private:
     int multiSelect_ = kMultiSelectNone;
     int topIndex_ = 0;
+    float rowHeight_ = 0;
     int anchor_ = -1;
 };
 

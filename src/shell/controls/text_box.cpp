@@ -71,4 +71,9 @@ void TextBox::ListEvents(std::vector<NamedEvent>& out) const {
     out.push_back({"Change", &Change});
 }
 
+void SetTextSelect(TextBox& box) {
+    box.SetSelStart(0);
+    box.SetSelLength(static_cast<int>(box.Text().size()));
+}
+
 }  // namespace tarvex

@@ -44,4 +44,7 @@ class TextBox : public Control {
     bool multiLine_ = false;
 };
 
+// Selects the whole text, so that typing replaces it.
+void SetTextSelect(TextBox& box);
+
 }  // namespace tarvex

@@ -15,7 +15,8 @@ namespace tarvex {
 
 namespace {
 
-// A row of the desktop's small font, for the places reported with a press on a list.
+// A row of the desktop's small font, for the places reported with a press on a list that
+// gives no row height of its own.
 constexpr float kListRowHeight = 195;
 
 constexpr int kKeySpace = 32;
@@ -29,13 +30,6 @@ std::vector<int> RowsBetween(int a, int b) {
     return rows;
 }
 
-std::vector<int> SelectedRows(const ListBox& list) {
-    std::vector<int> rows;
-    for (int r = 0; r < list.ListCount(); ++r)
-        if (list.Selected(r)) rows.push_back(r);
-    return rows;
-}
-
 void SelectByPress(ListBox& list, int row, int shift) {
     const bool ctrl = (shift & kCtrlMask) != 0;
     const bool extend = (shift & kShiftMask) != 0;
@@ -46,7 +40,7 @@ void SelectByPress(ListBox& list, int row, int shift) {
             return;
         }
         case kMultiSelectExtended: {
-            std::vector<int> rows = ctrl ? SelectedRows(list) : std::vector<int>{};
+            std::vector<int> rows = ctrl ? list.SelectedRows() : std::vector<int>{};
             if (extend) {
                 const int anchor = list.AnchorIndex() >= 0 ? list.AnchorIndex() : row;
                 for (int r : RowsBetween(anchor, row))
@@ -264,7 +258,8 @@ void UserClickControl(Control& control) {
 }
 
 float RowMiddle(const ListBox& list, int row) {
-    return (static_cast<float>(row - list.TopIndex()) + 0.5f) * kListRowHeight;
+    const float height = list.RowHeight() > 0 ? list.RowHeight() : kListRowHeight;
+    return (static_cast<float>(row - list.TopIndex()) + 0.5f) * height;
 }
 
 void UserPressRow(ListBox& list, int row, int button, int shift) {

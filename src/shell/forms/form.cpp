@@ -97,6 +97,12 @@ void Form::UserResize(float width, float height) {
     Resize();
 }
 
+void Form::SetTopMost(bool topMost) {
+    if (topMost == topMost_) return;
+    topMost_ = topMost;
+    Notify(Aspect::Appearance);
+}
+
 void Form::ListEvents(std::vector<NamedEvent>& out) const {
     CaptionControl::ListEvents(out);
     out.insert(

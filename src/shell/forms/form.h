@@ -61,6 +61,11 @@ class Form : public CaptionControl {
     // The skin reports a new size of the window; Resize runs after it is stored.
     void UserResize(float width, float height);
 
+    // A window that floats over the main window and stays on top of the others, without
+    // holding the rest of the program up.
+    bool TopMost() const { return topMost_; }
+    void SetTopMost(bool topMost);
+
     Event<> Load;
     Event<int&> QueryUnload;  // cancel
     Event<> Unload;
@@ -168,6 +173,7 @@ class Form : public CaptionControl {
     void CheckContainer(const Container& where, const std::string& name) const;
 
     bool loaded_ = false;
+    bool topMost_ = false;
     struct Registered {
         std::string name;
         Component* single = nullptr;

@@ -101,6 +101,8 @@ FrmMission::FrmMission()
     Add(NAMED(fraGroupInfo), formations, {120, 360, 5700, 2820});
     const Container groups = In(fraGroupInfo);
     Add(NAMED(lstGroupName), groups, {120, 240, 2100, 2040}).SetTag("Groups");
+    // The row under the pointer is found from this height.
+    lstGroupName.SetRowHeight(190);
     Add(NAMED(btnGroupName), groups, {2280, 240, 360, kButtonHeight}).SetCaption("...");
     Add(NAMED(btnDeleteGroup), groups, {2280, 640, 720, kButtonHeight}).SetCaption("Delete");
     btnDeleteGroup.SetVisible(false);
@@ -150,6 +152,7 @@ FrmMission::FrmMission()
     const Container pilots = In(fraPilotInfo);
     Add(NAMED(lstPilotName), pilots, {120, 240, 2400, 1560}).SetTag("Pilots");
     lstPilotName.SetMultiSelect(kMultiSelectExtended);
+    lstPilotName.SetRowHeight(190);
     Add(NAMED(btnPilotName), pilots, {120, 1860, 480, kButtonHeight}).SetCaption("...");
     Add(NAMED(btnDeletePilot), pilots, {660, 1860, 900, kButtonHeight}).SetCaption("Delete");
     btnDeletePilot.SetVisible(false);
