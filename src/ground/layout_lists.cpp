@@ -36,7 +36,7 @@ void CheckLayoutDeletable(Editor& ed, CommandButton& button, std::int32_t itemDa
     }
 }
 
-void lstGrnUnits_MouseUp(Editor& ed, int, int, float, float) {
+void lstGrnUnits_MouseDown(Editor& ed, int, int, float, float) {
     auto& frm = ed.FrmMission;
     const int row = frm.lstGrnUnits.ListIndex();
     if (row >= 0) CheckLayoutDeletable(ed, frm.btnDelGUlst, frm.lstGrnUnits.ItemData(row));

@@ -15,8 +15,8 @@ void FillLayoutLists(Editor& ed);
 // layout the database no longer has can't be deleted: the button hides, the values stay.
 void CheckLayoutDeletable(Editor& ed, CommandButton& button, std::int32_t itemData);
 
-// A press on a landscape layout: its Delete button, the tab refreshed. The list selects the
-// row pressed between the press and the release, so the release is where the row is known.
-void lstGrnUnits_MouseUp(Editor& ed, int button, int shift, float x, float y);
+// A press on a landscape layout: its Delete button, the tab refreshed. The list has selected
+// the pressed row when the press is reported.
+void lstGrnUnits_MouseDown(Editor& ed, int button, int shift, float x, float y);
 
 }  // namespace tarvex

@@ -21,7 +21,7 @@ void WireGround(Editor& ed) {
     Wire(ed, frm.mapGroundUnits.MouseMove, mapGroundUnits_MouseMove);
     Wire(ed, frm.mapGroundUnits.MouseUp, mapGroundUnits_MouseUp);
 
-    Wire(ed, frm.lstGrnUnits.MouseUp, lstGrnUnits_MouseUp);
+    Wire(ed, frm.lstGrnUnits.MouseDown, lstGrnUnits_MouseDown);
     Wire(ed, frm.btnDelGUlst.Click, btnDelGUlst_Click);
     Wire(ed, frm.cmbGrndAirfield.Click, cmbGrndAirfield_Click);
     Wire(ed, frm.cmbAirfieldLayout.Click, cmbAirfieldLayout_Click);

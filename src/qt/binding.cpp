@@ -11,6 +11,7 @@
 
 #include "qt/input_codes.h"
 #include "qt/qt_text.h"
+#include "shell/controls/user_gestures.h"
 
 namespace tarvex::qt {
 
@@ -23,6 +24,14 @@ const char* const kPlaceSizeProperty = "tarvexPlaceSize";
 std::function<void(const std::exception&)>& FailureReport() {
     static std::function<void(const std::exception&)> report;
     return report;
+}
+
+// Characters a key gives that a text takes: no control characters.
+bool IsTypedText(const QString& text) {
+    if (text.isEmpty()) return false;
+    for (QChar c : text)
+        if (c.unicode() < 0x20 || c.unicode() == 0x7F) return false;
+    return true;
 }
 
 QScrollArea* ScrolledViewOf(const QWidget* control) {
@@ -279,6 +288,7 @@ bool ControlBinding::eventFilter(QObject* watched, QEvent* event) {
             if (target == widget_ || !widget_->hasFocus()) Guarded([&] { model_.RaiseGotFocus(); });
             return false;
         case QEvent::FocusOut:
+            keysDone_.clear();
             if (target == widget_ || !widget_->hasFocus())
                 Guarded([&] { model_.RaiseLostFocus(); });
             return false;
@@ -289,10 +299,26 @@ bool ControlBinding::eventFilter(QObject* watched, QEvent* event) {
 
 bool ControlBinding::KeyPressed(QKeyEvent* key) {
     const int code = KeyCodeOf(key->key());
-    int left = code;
-    if (code != 0) Guarded([&] { left = model_.RaiseKeyDown(code, ShiftOf(key->modifiers())); });
-    if (code != 0 && left == 0) return true;
+    const int shift = ShiftOf(key->modifiers());
     const QString text = key->text();
+    // Typing, and the keys the control answers itself (the caret, a list's row), are the
+    // core's gestures, the same as a scenario's; the rest are the widget's own.
+    const bool typed =
+        !(key->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) &&
+        IsTypedText(text) && TakesTyping(model_);
+    if (typed || (code != 0 && KeyHasResponse(model_, code, shift))) {
+        Guarded([&] {
+            if (typed)
+                UserTypeText(model_, text.toStdString(), false);
+            else
+                UserPressKey(model_, code, shift);
+        });
+        keysDone_.insert(key->key());
+        return true;
+    }
+    int left = code;
+    if (code != 0) Guarded([&] { left = model_.RaiseKeyDown(code, shift); });
+    if (code != 0 && left == 0) return true;
     if (text.size() == 1 && text[0].unicode() < 256) {
         int ascii = text[0].unicode();
         Guarded([&] { ascii = model_.RaiseKeyPress(ascii); });
@@ -302,6 +328,11 @@ bool ControlBinding::KeyPressed(QKeyEvent* key) {
 }
 
 bool ControlBinding::KeyReleased(QKeyEvent* key) {
+    // A gesture raised KeyUp with its press.
+    if (keysDone_.count(key->key()) != 0) {
+        if (!key->isAutoRepeat()) keysDone_.erase(key->key());
+        return true;
+    }
     const int code = KeyCodeOf(key->key());
     int left = code;
     if (code != 0) Guarded([&] { left = model_.RaiseKeyUp(code, ShiftOf(key->modifiers())); });

@@ -3,6 +3,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMouseEvent>
 #include <QScreen>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
@@ -12,7 +13,9 @@
 #include <vector>
 
 #include "qt/binding.h"
+#include "qt/input_codes.h"
 #include "qt/qt_text.h"
+#include "shell/controls/user_gestures.h"
 
 namespace tarvex::qt {
 
@@ -46,6 +49,8 @@ class ListBinding : public ControlBinding {
             const int top = list_->indexAt(QPoint(1, 1)).row();
             if (top >= 0) Guarded([&] { model_.SetTopIndex(top); });
         });
+        // The list's own moves, by the keys the core leaves to it (Page Up, Shift with an
+        // arrow), go to the model as the user's selection.
         connect(list, &QListWidget::currentRowChanged, this, [this](int row) {
             if (Syncing() || model_.MultiSelect() != kMultiSelectNone) return;
             Guarded([&] { model_.SetListIndex(row); });
@@ -62,6 +67,33 @@ class ListBinding : public ControlBinding {
     }
 
   protected:
+    // The pointer on the rows is the core's gesture, which selects before it reports a press,
+    // as a scenario's press does; the list's own mouse handling never runs.
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        const QEvent::Type type = event->type();
+        if (watched != list_->viewport() ||
+            (type != QEvent::MouseButtonPress && type != QEvent::MouseMove &&
+             type != QEvent::MouseButtonRelease && type != QEvent::MouseButtonDblClick))
+            return ControlBinding::eventFilter(watched, event);
+        auto* mouse = static_cast<QMouseEvent*>(event);
+        // The point counts from the rows' area, where the model's RowAt finds the same row.
+        const int row = list_->indexAt(mouse->position().toPoint()).row();
+        const int shift = ShiftOf(mouse->modifiers());
+        const int button = ButtonOf(type == QEvent::MouseMove ? mouse->buttons() : mouse->button());
+        const float x = Twips(mouse->position().x());
+        const float y = Twips(mouse->position().y());
+        Guarded([&] {
+            if (type == QEvent::MouseButtonPress)
+                UserPressRow(model_, row, button, shift, x, y);
+            else if (type == QEvent::MouseMove)
+                UserMoveOverRow(model_, row, button, shift, x, y);
+            else if (type == QEvent::MouseButtonRelease)
+                UserReleaseRow(model_, row, button, shift, x, y);
+            else
+                UserDoubleClickRow(model_, row, button, shift, x, y);
+        });
+        return true;
+    }
     void Sync(Aspect aspect) override {
         if (aspect == Aspect::Rows) {
             list_->clear();

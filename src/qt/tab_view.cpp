@@ -7,6 +7,7 @@
 
 #include "qt/binding.h"
 #include "qt/input_codes.h"
+#include "shell/controls/user_gestures.h"
 
 namespace tarvex::qt {
 
@@ -69,6 +70,8 @@ bool TabView::eventFilter(QObject* watched, QEvent* event) {
     const bool onPage = !onBar && event->type() != QEvent::Paint &&
                         std::find(pages_.begin(), pages_.end(), watched) != pages_.end();
     if (!onBar && !onPage) return false;
+    // The strip changes tab only through the model, also on the second press of a double click.
+    if (event->type() == QEvent::MouseButtonDblClick) return onBar;
     if (event->type() != QEvent::MouseButtonPress && event->type() != QEvent::MouseButtonRelease)
         return false;
     auto* mouse = static_cast<QMouseEvent*>(event);
@@ -76,26 +79,21 @@ bool TabView::eventFilter(QObject* watched, QEvent* event) {
     const int shift = ShiftOf(mouse->modifiers());
     float x = Twips(mouse->position().x());
     float y;
+    int tab = -1;
     if (onBar) {
         // The header strip is the model's top TabHeight; the point keeps its place within it.
         const double share =
             tabBar()->height() > 0 ? mouse->position().y() / tabBar()->height() : 0;
         y = static_cast<float>(std::clamp(share, 0.0, 1.0) * model_.TabHeight());
         x = Twips(tabBar()->mapTo(this, mouse->position().toPoint()).x());
+        tab = tabBar()->tabAt(mouse->position().toPoint());
     } else {
         y = model_.TabHeight() + Twips(mouse->position().y());
     }
-    if (event->type() == QEvent::MouseButtonPress) {
-        if (onBar) {
-            const int tab = tabBar()->tabAt(mouse->position().toPoint());
-            if (tab >= 0 && tab != model_.Tab() && model_.TabEnabled(tab))
-                Guarded([&] { model_.SetTab(tab); });
-        }
-        Guarded([&] { model_.RaiseMouseDown(button, shift, x, y); });
-    } else {
+    if (event->type() == QEvent::MouseButtonPress)
+        Guarded([&] { UserPressTab(model_, tab, button, shift, x, y); });
+    else
         Guarded([&] { model_.RaiseMouseUp(button, shift, x, y); });
-    }
-    // The strip changes tab only through the model.
     return onBar;
 }
 

@@ -1,7 +1,7 @@
 #pragma once
-// The tab strip with its pages. A press on a header turns the model to that page first and
-// then raises MouseDown at the header's height, as the desktop's strip does; files dragged
-// over it go to the model's drag events.
+// The tab strip with its pages. A press on the strip is the model's tab press, which turns to
+// the page under the pointer before it reports the press; files dragged over it go to the
+// model's drag events.
 #include <QTabWidget>
 #include <vector>
 

@@ -21,20 +21,42 @@ std::string ToModelText(QString text, bool multiLine) {
     return text.toStdString();
 }
 
+// The model counts the caret and the selection in bytes of its text, CR LF included; the
+// widget in characters of what it shows. The typing gestures edit the model at its count.
+int ModelPosition(const QString& shown, int position, bool multiLine) {
+    return static_cast<int>(ToModelText(shown.left(position), multiLine).size());
+}
+int ShownPosition(const std::string& text, int position) {
+    const size_t bytes =
+        static_cast<size_t>(std::clamp(position, 0, static_cast<int>(text.size())));
+    return static_cast<int>(FromModelText(text.substr(0, bytes)).size());
+}
+
+// Tells the model where the caret and the selection are, from the widget's start and end.
+void ReportSelection(TextBox& model, const QString& shown, int start, int end) {
+    const bool multi = model.MultiLine();
+    const int modelStart = ModelPosition(shown, start, multi);
+    Guarded([&] {
+        model.SetSelStart(modelStart);
+        model.SetSelLength(ModelPosition(shown, end, multi) - modelStart);
+    });
+}
+
 class LineEditBinding : public ControlBinding {
   public:
     LineEditBinding(TextBox& model, QLineEdit* edit, QPointF origin)
         : ControlBinding(model, edit, origin), model_(model), edit_(edit) {
+        // What the widget edits itself (a paste, a cut, an input method) arrives whole.
         connect(edit, &QLineEdit::textEdited, this, [this](const QString& text) {
             if (Syncing()) return;
-            const int caret = edit_->cursorPosition();
+            const int caret = ModelPosition(text, edit_->cursorPosition(), false);
             Guarded([&] {
                 model_.SetText(ToModelText(text, false));
                 model_.SetSelStart(caret);
             });
         });
-        connect(edit, &QLineEdit::selectionChanged, this, [this] { ReportSelection(); });
-        connect(edit, &QLineEdit::cursorPositionChanged, this, [this] { ReportSelection(); });
+        connect(edit, &QLineEdit::selectionChanged, this, [this] { Report(); });
+        connect(edit, &QLineEdit::cursorPositionChanged, this, [this] { Report(); });
     }
 
   protected:
@@ -46,24 +68,23 @@ class LineEditBinding : public ControlBinding {
         if (click && Widget()) Guarded([this] { model_.RaiseClick(); });
         return handled;
     }
-    void ReportSelection() {
+    void Report() {
         if (Syncing()) return;
         const int start =
             edit_->hasSelectedText() ? edit_->selectionStart() : edit_->cursorPosition();
         const int length = edit_->hasSelectedText() ? edit_->selectedText().size() : 0;
-        Guarded([&] {
-            model_.SetSelStart(start);
-            model_.SetSelLength(length);
-        });
+        ReportSelection(model_, edit_->text(), start, start + length);
     }
     void Sync(Aspect aspect) override {
         if (aspect == Aspect::Text || aspect == Aspect::Selection) {
             const QString text = FromModelText(model_.Text());
             if (edit_->text() != text) edit_->setText(text);
-            if (model_.SelLength() > 0)
-                edit_->setSelection(model_.SelStart(), model_.SelLength());
+            const int start = ShownPosition(model_.Text(), model_.SelStart());
+            const int end = ShownPosition(model_.Text(), model_.SelStart() + model_.SelLength());
+            if (end > start)
+                edit_->setSelection(start, end - start);
             else
-                edit_->setCursorPosition(model_.SelStart());
+                edit_->setCursorPosition(start);
         }
         if (aspect == Aspect::Appearance) {
             edit_->setReadOnly(model_.Locked());
@@ -85,23 +106,31 @@ class TextEditBinding : public ControlBinding {
         WatchChild(edit->viewport());
         connect(edit, &QPlainTextEdit::textChanged, this, [this] {
             if (Syncing()) return;
-            const int caret = edit_->textCursor().position();
+            const QString shown = edit_->toPlainText();
+            const int caret = ModelPosition(shown, edit_->textCursor().position(), true);
             Guarded([&] {
-                model_.SetText(ToModelText(edit_->toPlainText(), true));
+                model_.SetText(ToModelText(shown, true));
                 model_.SetSelStart(caret);
             });
         });
+        connect(edit, &QPlainTextEdit::cursorPositionChanged, this, [this] { Report(); });
+        connect(edit, &QPlainTextEdit::selectionChanged, this, [this] { Report(); });
     }
 
   protected:
+    void Report() {
+        if (Syncing()) return;
+        const QTextCursor cursor = edit_->textCursor();
+        ReportSelection(model_, edit_->toPlainText(), cursor.selectionStart(),
+                        cursor.selectionEnd());
+    }
     void Sync(Aspect aspect) override {
         if (aspect == Aspect::Text || aspect == Aspect::Selection) {
             const QString text = FromModelText(model_.Text());
             if (edit_->toPlainText() != text) edit_->setPlainText(text);
             QTextCursor cursor = edit_->textCursor();
-            const int end = static_cast<int>(edit_->toPlainText().size());
-            cursor.setPosition(std::min(model_.SelStart(), end));
-            cursor.setPosition(std::min(model_.SelStart() + model_.SelLength(), end),
+            cursor.setPosition(ShownPosition(model_.Text(), model_.SelStart()));
+            cursor.setPosition(ShownPosition(model_.Text(), model_.SelStart() + model_.SelLength()),
                                QTextCursor::KeepAnchor);
             edit_->setTextCursor(cursor);
         }

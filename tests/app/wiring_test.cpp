@@ -104,7 +104,7 @@ const char* const kHandlers[] = {
     "FrmMission.mapGroundUnits_MouseDown",
     "FrmMission.mapGroundUnits_MouseMove",
     "FrmMission.mapGroundUnits_MouseUp",
-    "FrmMission.lstGrnUnits_MouseUp",
+    "FrmMission.lstGrnUnits_MouseDown",
     "FrmMission.btnDelGUlst_Click",
     "FrmMission.cmbGrndAirfield_Click",
     "FrmMission.cmbAirfieldLayout_Click",

@@ -19,10 +19,12 @@
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
+#include <filesystem>
 #include <functional>
 #include <stdexcept>
 #include <vector>
 
+#include "app/scratch_editor.h"
 #include "common/error.h"
 #include "platform/scripted_platform.h"
 #include "qt/binding.h"
@@ -31,6 +33,8 @@
 #include "qt/form_view.h"
 #include "qt/services.h"
 #include "qt/widget_factory.h"
+#include "scenario/scenario_run.h"
+#include "scenario/scenario_script.h"
 #include "shell/forms/frm_aircraft.h"
 #include "shell/forms/frm_mission.h"
 #include "shell/forms/mdi_mission_ed.h"
@@ -38,6 +42,8 @@
 
 namespace tarvex::qt {
 namespace {
+
+namespace fs = std::filesystem;
 
 class SkinTest : public ::testing::Test, public ScriptedServices {
   protected:
@@ -394,6 +400,61 @@ TEST_F(SkinTest, DoubleClickEntersTheLayoutEditorWhoseSpinBoxesReachTheModel) {
     EXPECT_EQ(frm.mapGroundUnits.Tag(), "False");
     EXPECT_FALSE(controls->isVisibleTo(tabs));
     EXPECT_LE(view->width(), Widget("lstGrnUnits")->x());
+}
+
+// The pilots of the Formations tab as the form shows them: the list's selection and what its
+// handlers made of it.
+std::string PilotsShown(Editor& ed) {
+    const auto& frm = ed.FrmMission;
+    std::string shown = "tab " + std::to_string(frm.SSTab1.Tab()) + ", group " +
+                        std::to_string(frm.lstGroupName.ListIndex()) + ", pilots";
+    for (int row : frm.lstPilotName.SelectedRows())
+        shown += " " + std::to_string(row);
+    shown += ", focus " + std::to_string(frm.lstPilotName.ListIndex()) + ", anchor " +
+             std::to_string(frm.lstPilotName.AnchorIndex()) + ", player " +
+             (frm.chkPlayer.Enabled() ? "enabled" : "disabled");
+    return shown;
+}
+
+// One gesture both ways: a press with Shift on the pilots, by the user's hands on the widgets
+// and by a scenario's lines on a headless editor, leaves the form the same.
+TEST_F(SkinTest, AScenarioDoesWhatTheUsersHandsDo) {
+    const std::string mission = TARVEX_SOURCE_DIR "/tests/data/missions/channel_sweep.mis";
+    dialogs.QueueOpen(mission);
+    Action("mnuOpen")->trigger();
+    QTabBar* bar = qobject_cast<QTabWidget*>(Widget("SSTab1"))->tabBar();
+    QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(1).center());
+    QApplication::processEvents();
+    const auto press = [&](const char* name, int row, Qt::KeyboardModifiers keys) {
+        auto* list = qobject_cast<QListWidget*>(Widget(name));
+        ASSERT_NE(list, nullptr);
+        ASSERT_GT(list->count(), row);
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, keys,
+                          list->visualItemRect(list->item(row)).center());
+    };
+    press("lstGroupName", 0, {});
+    press("lstPilotName", 1, {});
+    press("lstPilotName", 0, Qt::ShiftModifier);
+
+    const fs::path source = TARVEX_SOURCE_DIR;
+    ScratchEditor scratch({{source / "data/refdb/schema.sql", source / "data/refdb/seed.sql"},
+                           {},
+                           source / "data/maps",
+                           false},
+                          "both-ways");
+    const scenario::Script script = scenario::ParseScenario(
+        "open " + mission +
+            "\ntab 1\nselect lstGroupName 0\nselect lstPilotName 1\nselect lstPilotName 0 "
+            "shift\n",
+        {});
+    ASSERT_TRUE(script.errors.empty()) << script.errors[0].message;
+    scenario::ScenarioRun run(scratch);
+    const auto failure = run.Run(script);
+    ASSERT_FALSE(failure) << failure->line << ": " << failure->message;
+
+    EXPECT_EQ(PilotsShown(session->ed()), PilotsShown(scratch.ed()));
+    EXPECT_EQ(PilotsShown(session->ed()),
+              "tab 1, group 0, pilots 0 1, focus 0, anchor 1, player disabled");
 }
 
 // A failure that no handler caught ends in the program's error box, and the editor goes on.

@@ -30,6 +30,10 @@ std::vector<int> RowsBetween(int a, int b) {
     return rows;
 }
 
+bool IsRow(const ListBox& list, int row) {
+    return row >= 0 && row < list.ListCount();
+}
+
 void SelectByPress(ListBox& list, int row, int shift) {
     const bool ctrl = (shift & kCtrlMask) != 0;
     const bool extend = (shift & kShiftMask) != 0;
@@ -205,6 +209,10 @@ void RespondToKey(Control& control, int keyCode, TextTarget& text) {
     if (keyCode != kKeyUp && keyCode != kKeyDown && keyCode != kKeyHome && keyCode != kKeyEnd)
         return;
     const int row = MovedRow(keyCode, list->ListIndex(), list->ListCount());
+    if (auto* closed = dynamic_cast<ComboBox*>(&control)) {
+        if (row != closed->ListIndex()) closed->UserChoose(row);
+        return;
+    }
     auto* box = dynamic_cast<ListBox*>(&control);
     if (box && box->MultiSelect() != kMultiSelectNone) {
         box->SetSelection({row}, row);
@@ -224,7 +232,7 @@ void PressKey(Control& control, int keyCode, int shift, char character, TextTarg
     if (typed != 0) typed = control.RaiseKeyPress(typed);
     if (typed >= 32 && typed < 127) {
         text.Insert(std::string(1, static_cast<char>(typed)));
-    } else if (typed != 0 || character == 0) {
+    } else if ((typed != 0 || character == 0) && KeyHasResponse(control, keyCode, shift)) {
         RespondToKey(control, keyCode, text);
     }
     if (keyCode != 0) control.RaiseKeyUp(keyCode, shift);
@@ -263,12 +271,20 @@ float RowMiddle(const ListBox& list, int row) {
 }
 
 void UserPressRow(ListBox& list, int row, int button, int shift) {
-    if (button == kLeftButton) SelectByPress(list, row, shift);
-    list.RaiseMouseDown(button, shift, list.Width() / 2, RowMiddle(list, row));
+    UserPressRow(list, row, button, shift, list.Width() / 2, RowMiddle(list, row));
+}
+
+void UserPressRow(ListBox& list, int row, int button, int shift, float x, float y) {
+    if (button == kLeftButton && IsRow(list, row)) SelectByPress(list, row, shift);
+    list.RaiseMouseDown(button, shift, x, y);
 }
 
 void UserMoveOverRow(ListBox& list, int row, int button, int shift) {
-    if (button == kLeftButton) {
+    UserMoveOverRow(list, row, button, shift, list.Width() / 2, RowMiddle(list, row));
+}
+
+void UserMoveOverRow(ListBox& list, int row, int button, int shift, float x, float y) {
+    if (button == kLeftButton && IsRow(list, row)) {
         if (list.MultiSelect() == kMultiSelectNone) {
             list.SetListIndex(row);
         } else if (list.MultiSelect() == kMultiSelectExtended) {
@@ -277,17 +293,66 @@ void UserMoveOverRow(ListBox& list, int row, int button, int shift) {
             list.SetAnchorIndex(anchor);
         }
     }
-    list.RaiseMouseMove(button, shift, list.Width() / 2, RowMiddle(list, row));
+    list.RaiseMouseMove(button, shift, x, y);
 }
 
 void UserReleaseRow(ListBox& list, int row, int button, int shift) {
-    list.RaiseMouseUp(button, shift, list.Width() / 2, RowMiddle(list, row));
+    UserReleaseRow(list, row, button, shift, list.Width() / 2, RowMiddle(list, row));
+}
+
+void UserReleaseRow(ListBox& list, int, int button, int shift, float x, float y) {
+    list.RaiseMouseUp(button, shift, x, y);
+}
+
+void UserDoubleClickRow(ListBox& list, int row, int button, int shift) {
+    UserDoubleClickRow(list, row, button, shift, list.Width() / 2, RowMiddle(list, row));
+}
+
+void UserDoubleClickRow(ListBox& list, int, int button, int shift, float x, float y) {
+    list.RaiseMouseDown(button, shift, x, y);
+    list.RaiseDblClick();
 }
 
 void UserPressTab(TabControl& strip, int tab, int button, int shift, float x, float y) {
-    if (tab >= 0 && tab < strip.Tabs() && tab != strip.Tab() && strip.TabEnabled(tab))
+    if (tab >= 0 && tab < strip.Tabs() && tab != strip.Tab() && strip.TabEnabled(tab) &&
+        y <= strip.TabHeight())
         strip.SetTab(tab);
     strip.RaiseMouseDown(button, shift, x, y);
+}
+
+bool TakesTyping(const Control& control) {
+    if (dynamic_cast<const TextBox*>(&control)) return true;
+    const auto* combo = dynamic_cast<const ComboBox*>(&control);
+    return combo && combo->Style() != kComboDropDownList;
+}
+
+bool KeyHasResponse(const Control& control, int keyCode, int shift) {
+    if (shift != 0) return false;
+    if (TakesTyping(control)) {
+        switch (keyCode) {
+            case kKeyBack:
+            case kKeyDelete:
+            case kKeyHome:
+            case kKeyEnd:
+            case kKeyLeft:
+            case kKeyRight:
+                return true;
+            case kKeyReturn:
+                if (const auto* box = dynamic_cast<const TextBox*>(&control);
+                    box && box->MultiLine())
+                    return true;
+                break;
+            default:
+                break;
+        }
+    }
+    const auto* combo = dynamic_cast<const ComboBox*>(&control);
+    if (combo && combo->DroppedDown())
+        return keyCode == kKeyUp || keyCode == kKeyDown || keyCode == kKeyReturn ||
+               keyCode == kKeyEscape;
+    const auto* list = dynamic_cast<const ListControl*>(&control);
+    return list && list->ListCount() > 0 &&
+           (keyCode == kKeyUp || keyCode == kKeyDown || keyCode == kKeyHome || keyCode == kKeyEnd);
 }
 
 void UserPressKey(Control& control, int keyCode, int shift) {
