@@ -11,6 +11,7 @@
 
 #include "qt/input_codes.h"
 #include "qt/qt_text.h"
+#include "shell/controls/text_box.h"
 #include "shell/controls/user_gestures.h"
 
 namespace tarvex::qt {
@@ -200,12 +201,19 @@ void ControlBinding::SyncAppearance() {
     widget_->setToolTip(Q(model_.ToolTipText()));
     QPalette palette = widget_->palette();
     const bool ownBack = !IsSystemColour(model_.BackColor()) && PaintsBackColour();
-    const QPalette defaults = QApplication::palette(widget_);
-    for (QPalette::ColorRole role : {QPalette::Window, QPalette::Base, QPalette::Button})
-        palette.setColor(role, ownBack ? ToQColor(model_.BackColor()) : defaults.color(role));
     const bool ownFore = !IsSystemColour(model_.ForeColor());
-    for (QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(role, ownFore ? ToQColor(model_.ForeColor()) : defaults.color(role));
+    const QPalette defaults = QApplication::palette(widget_);
+    for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        for (QPalette::ColorRole role : {QPalette::Window, QPalette::Base, QPalette::Button})
+            palette.setColor(group, role,
+                             ownBack ? ToQColor(model_.BackColor()) : defaults.color(group, role));
+        // A disabled control's text is the desktop's grey, whatever its own colour.
+        for (QPalette::ColorRole role :
+             {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+            palette.setColor(group, role,
+                             ownFore && group != QPalette::Disabled ? ToQColor(model_.ForeColor())
+                                                                    : defaults.color(group, role));
+    }
     widget_->setPalette(palette);
     // A control laid over others hides what lies under it.
     widget_->setAutoFillBackground(ownBack || model_.Where().IsOverlay());
@@ -303,10 +311,16 @@ bool ControlBinding::KeyPressed(QKeyEvent* key) {
     const QString text = key->text();
     // Typing, and the keys the control answers itself (the caret, a list's row), are the
     // core's gestures, the same as a scenario's; the rest are the widget's own.
+    // An editable combo's caret is its widget's own: the widget edits its text there and
+    // reports it whole; only its row moves are the core's.
+    const bool caretInModel = dynamic_cast<const TextBox*>(&model_) != nullptr;
     const bool typed =
         !(key->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) &&
-        IsTypedText(text) && TakesTyping(model_);
-    if (typed || (code != 0 && KeyHasResponse(model_, code, shift))) {
+        IsTypedText(text) && caretInModel;
+    const bool answered =
+        code != 0 && KeyHasResponse(model_, code, shift) &&
+        (caretInModel || !TakesTyping(model_) || code == kKeyUp || code == kKeyDown);
+    if (typed || answered) {
         Guarded([&] {
             if (typed)
                 UserTypeText(model_, text.toStdString(), false);

@@ -22,7 +22,8 @@ void BindAction(MenuItem& item, QAction* action) {
     const auto sync = [&item, action] {
         const QSignalBlocker blocker(action);
         action->setSeparator(item.IsSeparator());
-        action->setText(Q(item.Caption()));
+        // A separator with a text would show it as a section title.
+        action->setText(item.IsSeparator() ? QString() : Q(item.Caption()));
         if (!item.Shortcut().empty())
             action->setShortcut(QKeySequence(Q(item.Shortcut())));
         else

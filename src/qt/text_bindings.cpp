@@ -33,13 +33,17 @@ int ShownPosition(const std::string& text, int position) {
 }
 
 // Tells the model where the caret and the selection are, from the widget's start and end.
-void ReportSelection(TextBox& model, const QString& shown, int start, int end) {
+// Meanwhile `reporting` is set: the widget already shows what the model takes, and setting it
+// back would turn a selection made leftwards round.
+void ReportSelection(TextBox& model, const QString& shown, int start, int end, bool& reporting) {
     const bool multi = model.MultiLine();
     const int modelStart = ModelPosition(shown, start, multi);
+    reporting = true;
     Guarded([&] {
         model.SetSelStart(modelStart);
         model.SetSelLength(ModelPosition(shown, end, multi) - modelStart);
     });
+    reporting = false;
 }
 
 class LineEditBinding : public ControlBinding {
@@ -73,10 +77,10 @@ class LineEditBinding : public ControlBinding {
         const int start =
             edit_->hasSelectedText() ? edit_->selectionStart() : edit_->cursorPosition();
         const int length = edit_->hasSelectedText() ? edit_->selectedText().size() : 0;
-        ReportSelection(model_, edit_->text(), start, start + length);
+        ReportSelection(model_, edit_->text(), start, start + length, reporting_);
     }
     void Sync(Aspect aspect) override {
-        if (aspect == Aspect::Text || aspect == Aspect::Selection) {
+        if ((aspect == Aspect::Text || aspect == Aspect::Selection) && !reporting_) {
             const QString text = FromModelText(model_.Text());
             if (edit_->text() != text) edit_->setText(text);
             const int start = ShownPosition(model_.Text(), model_.SelStart());
@@ -97,6 +101,7 @@ class LineEditBinding : public ControlBinding {
   private:
     TextBox& model_;
     QLineEdit* edit_;
+    bool reporting_ = false;
 };
 
 class TextEditBinding : public ControlBinding {
@@ -122,10 +127,10 @@ class TextEditBinding : public ControlBinding {
         if (Syncing()) return;
         const QTextCursor cursor = edit_->textCursor();
         ReportSelection(model_, edit_->toPlainText(), cursor.selectionStart(),
-                        cursor.selectionEnd());
+                        cursor.selectionEnd(), reporting_);
     }
     void Sync(Aspect aspect) override {
-        if (aspect == Aspect::Text || aspect == Aspect::Selection) {
+        if ((aspect == Aspect::Text || aspect == Aspect::Selection) && !reporting_) {
             const QString text = FromModelText(model_.Text());
             if (edit_->toPlainText() != text) edit_->setPlainText(text);
             QTextCursor cursor = edit_->textCursor();
@@ -142,6 +147,7 @@ class TextEditBinding : public ControlBinding {
   private:
     TextBox& model_;
     QPlainTextEdit* edit_;
+    bool reporting_ = false;
 };
 
 }  // namespace

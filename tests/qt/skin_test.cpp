@@ -232,6 +232,38 @@ TEST_F(SkinTest, TypingReachesTheTextBoxAndKeepsTheCaret) {
     EXPECT_EQ(changes, 6);
 }
 
+// Typing and the keys the core answers share one caret with the selection the widget makes
+// itself (Shift and an arrow), in a line and in a box of several lines.
+TEST_F(SkinTest, TypingAndTheWidgetsOwnSelectionShareOneCaret) {
+    session->ShowTab(0);
+    QApplication::processEvents();
+    const struct {
+        const char* name;
+        Qt::Key lineBreak;
+        const char* text;
+    } cases[] = {
+        {"txtType", Qt::Key_Space, "ASweep X"},
+        {"txtSummary", Qt::Key_Return, "Sweep\r\nAX"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        auto* box = dynamic_cast<TextBox*>(session->ed().FrmMission.FindControl(c.name));
+        QWidget* widget = Widget(c.name);
+        ASSERT_TRUE(box && widget);
+        box->SetText("");
+        widget->setFocus();
+        QTest::keyClicks(widget, "Sweep");
+        QTest::keyClick(widget, c.lineBreak);
+        QTest::keyClicks(widget, "now");
+        for (int k = 0; k < 3; ++k)
+            QTest::keyClick(widget, Qt::Key_Left, Qt::ShiftModifier);
+        QTest::keyClicks(widget, "X");
+        QTest::keyClick(widget, Qt::Key_Home);
+        QTest::keyClicks(widget, "A");
+        EXPECT_EQ(box->Text(), c.text);
+    }
+}
+
 TEST_F(SkinTest, ClicksOnButtonsGoThroughTheModels) {
     auto& frm = session->ed().FrmMission;
     session->ShowTab(1);

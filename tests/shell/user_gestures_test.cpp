@@ -141,8 +141,13 @@ TEST(UserGesturesTest, KeysEditTheTextOrMoveTheSelection) {
     } texts[] = {
         {"back at the end", "abc", {end, kKeyBack}, "ab"},
         {"delete at the start", "abc", {home, kKeyDelete}, "bc"},
-        {"back takes a line break whole", "a\r\nb", {end, kKeyLeft, kKeyBack}, "ab"},
+        {"back takes a line break whole", "a\r\nb", {end, kKeyRight, kKeyBack}, "ab"},
         {"return in a multi-line box", "ab", {end, kKeyReturn}, "ab\r\n"},
+        {"right passes a line break whole, home stays on the line",
+         "ab\r\ncd",
+         {kKeyRight, kKeyRight, kKeyRight, home, kKeyBack},
+         "abcd"},
+        {"a character of two bytes goes whole", "\xC3\xA9x", {end, kKeyLeft, kKeyBack}, "x"},
     };
     for (const auto& c : texts) {
         SCOPED_TRACE(c.what);

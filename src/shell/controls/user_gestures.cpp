@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cstdlib>
 #include <string>
 #include <vector>
 
@@ -68,6 +69,29 @@ void SelectByPress(ListBox& list, int row, int shift) {
     }
 }
 
+// The caret's next stop after or before `at`: a line break of a multi-line box and a character
+// of several bytes are passed whole.
+int CaretStep(const std::string& text, int at, bool forward) {
+    const int size = static_cast<int>(text.size());
+    const auto continuation = [&](int i) {
+        return (static_cast<unsigned char>(text[i]) & 0xC0) == 0x80;
+    };
+    if (forward) {
+        if (at >= size) return size;
+        if (text.compare(at, 2, "\r\n") == 0) return at + 2;
+        int next = at + 1;
+        while (next < size && continuation(next))
+            ++next;
+        return next;
+    }
+    if (at <= 0) return 0;
+    if (at >= 2 && text.compare(at - 2, 2, "\r\n") == 0) return at - 2;
+    int previous = at - 1;
+    while (previous > 0 && continuation(previous))
+        --previous;
+    return previous;
+}
+
 // What a text box or an editable combo does with keys, whichever it is.
 class TextTarget {
   public:
@@ -106,7 +130,9 @@ class TextTarget {
             if (replaceCombo_) {
                 combo_->SetText("");
             } else if (before && !combo_->Text().empty()) {
-                combo_->SetText(combo_->Text().substr(0, combo_->Text().size() - 1));
+                const std::string& text = combo_->Text();
+                combo_->SetText(
+                    text.substr(0, CaretStep(text, static_cast<int>(text.size()), false)));
             }
             replaceCombo_ = false;
             return;
@@ -114,34 +140,37 @@ class TextTarget {
         if (!box_ || box_->Locked()) return;
         if (box_->SelLength() == 0) {
             const int start = box_->SelStart();
-            const int size = static_cast<int>(box_->Text().size());
-            if (before ? start == 0 : start >= size) return;
-            // A line break of a multi-line box goes as one.
-            const bool pair = before ? start >= 2 && box_->Text().compare(start - 2, 2, "\r\n") == 0
-                                     : box_->Text().compare(start, 2, "\r\n") == 0;
-            const int count = pair ? 2 : 1;
-            box_->SetSelStart(before ? start - count : start);
-            box_->SetSelLength(count);
+            const int other = CaretStep(box_->Text(), start, !before);
+            if (other == start) return;
+            box_->SetSelStart(std::min(start, other));
+            box_->SetSelLength(std::abs(other - start));
         }
         box_->SetSelText("");
     }
 
+    // Home and End go to the ends of the caret's line.
     void MoveCaret(int keyCode) {
         if (!box_) return;
-        const int size = static_cast<int>(box_->Text().size());
+        const std::string& text = box_->Text();
         const int at = box_->SelStart();
         switch (keyCode) {
-            case kKeyHome:
-                box_->SetSelStart(0);
+            case kKeyHome: {
+                const size_t lineBreak = at < 2 ? std::string::npos : text.rfind("\r\n", at - 2);
+                box_->SetSelStart(lineBreak == std::string::npos ? 0
+                                                                 : static_cast<int>(lineBreak) + 2);
                 break;
-            case kKeyEnd:
-                box_->SetSelStart(size);
+            }
+            case kKeyEnd: {
+                const size_t lineBreak = text.find("\r\n", at);
+                box_->SetSelStart(lineBreak == std::string::npos ? static_cast<int>(text.size())
+                                                                 : static_cast<int>(lineBreak));
                 break;
+            }
             case kKeyLeft:
-                box_->SetSelStart(std::max(0, at - 1));
+                box_->SetSelStart(CaretStep(text, at, false));
                 break;
             case kKeyRight:
-                box_->SetSelStart(std::min(size, at + box_->SelLength() + 1));
+                box_->SetSelStart(CaretStep(text, at + box_->SelLength(), true));
                 break;
             default:
                 break;
