@@ -13,6 +13,7 @@
 #include "document/mis_text.h"
 #include "maps/map_loading.h"
 #include "maps/waypoint_controls.h"
+#include "maps/waypoint_list.h"
 #include "refdata/transaction.h"
 #include "shell/editor.h"
 #include "shell/error_box.h"
@@ -107,7 +108,7 @@ void RebuildTabs(Editor& ed) {
     frm.optColor(0).SetValue(true);
     frm.lstPoints.Clear();
     for (int i = 1; i < doc.PathPointCount(0); ++i)
-        frm.lstPoints.AddItem(Format(i, "##00") + ". " + doc.WPLat(0, i) + " " + doc.WPLon(0, i));
+        frm.lstPoints.AddItem(PointRowText(i, doc.WPLat(0, i), doc.WPLon(0, i)));
 
     ed.StepText = "Selecting the landing airfield for this mission from the [Landing Runway Combo]";
     frm.cmbEndAtRwy.SetListIndex(doc.GrpLandingRwy(0));

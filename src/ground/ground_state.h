@@ -61,6 +61,27 @@ struct GroundState {
     bool StationaryDragging = false;
     float StationaryAnchorX = 0;
     float StationaryAnchorY = 0;
+
+    // ---- The offsets window ---------------------------------------------------------------
+    // The grid's column less 2: 2 and 3 name XOffset and YOffset.
+    std::int16_t OffsetColumn = 0;
+    // btnOffsetEdit's value at its last change.
+    std::int32_t OffsetLastValue = 0;
+    // 100, or 1000 while Shift is held: a step of btnOffsetEdit is 1 / this layout units.
+    std::int16_t OffsetStepDivisor = 100;
+    // Layout names made by Save Layout since the mission window was created.
+    std::int16_t SaveCount = 0;
+
+    // ---- The layout records ---------------------------------------------------------------
+    // txtLayoutID and txtLayoutTotal were edited since the last layout was picked.
+    bool LayoutIDChanged = false;
+    bool LayoutTotalChanged = false;
+    // The grid row under the last press of the mouse.
+    std::int16_t RecordGridRow = 0;
+    // The pointer's y over lstStationaryName; -255 for none, which ends the edge scrolling.
+    float StationaryLastY = -255;
+    // Seconds of the clock at the last step of the edge scrolling.
+    double StationaryScrollTime = 0;
 };
 
 }  // namespace tarvex

@@ -21,8 +21,4 @@ void ShowCursorPosition(Editor& ed, float x, float y, std::string_view minutesFo
                kStatusNormal);
 }
 
-void mapWayPoints_MouseMove(Editor& ed, int, int, float x, float y) {
-    ShowCursorPosition(ed, x, y, "##00.00");
-}
-
 }  // namespace tarvex

@@ -12,7 +12,4 @@ class Editor;
 // and the length of that path as the last DrawPaths summed it.
 void ShowCursorPosition(Editor& ed, float x, float y, std::string_view minutesFormat);
 
-// The pointer over the Waypoints map.
-void mapWayPoints_MouseMove(Editor& ed, int button, int shift, float x, float y);
-
 }  // namespace tarvex

@@ -3,20 +3,15 @@
 #include <string>
 
 #include "common/number_text.h"
+#include "document/mission_writers.h"
 #include "maps/map_loading.h"
+#include "maps/point_slots.h"
 #include "shell/editor.h"
 #include "shell/forms/frm_mission.h"
 
 namespace tarvex {
 
 namespace {
-
-constexpr int kStayInTheAir = 0;
-constexpr int kTakeoffOnly = 1;
-constexpr int kLandOnly = 2;
-constexpr int kTakeoffAndLand = 3;
-// Item data of a lstPoints row added as a flyby of an airfield.
-constexpr int kFlybyRow = 1;
 
 // Puts a text centred on a point, for the airfield names on the end markers.
 void PrintCentred(PictureSurface& surface, float x, float y, const std::string& text) {
@@ -46,7 +41,7 @@ void DrawPathEnds(Editor& ed, PictureSurface& surface, int p, float& startLat, f
     startLat = ed.projection.CurLat;
     startLon = ed.projection.CurLon;
     const int flag = doc.GrpTakeoffFlag(doc.PathGroup(p));
-    if (flag == kTakeoffOnly || flag == kTakeoffAndLand) {
+    if (TakesOff(flag)) {
         surface.SetFillColor(kStartMarkerFill);
         surface.SetFillStyle(kFillSolid);
         surface.Circle(doc.WPMapX(p, 0), doc.WPMapY(p, 0), kPointRadius);
@@ -57,7 +52,7 @@ void DrawPathEnds(Editor& ed, PictureSurface& surface, int p, float& startLat, f
     if (doc.PathAirfieldEnd(p) == Mission::kNoAirfield) return;
     const int end = doc.PathPointCount(p);
     PlotPoint(ed, doc.WPLat(p, end), doc.WPLon(p, end), doc.WPMapX(p, end), doc.WPMapY(p, end));
-    if (flag == kLandOnly || flag == kTakeoffAndLand) {
+    if (Lands(flag)) {
         surface.SetFillColor(kEndMarkerFill);
         surface.SetFillStyle(kFillSolid);
         surface.Circle(doc.WPMapX(p, end), doc.WPMapY(p, end), kPointRadius);
@@ -97,6 +92,11 @@ void DrawPaths(Editor& ed, PictureSurface& surface) {
         if (current) {
             DrawPathEnds(ed, surface, p, prevLat, prevLon);
         } else {
+            // An overlay's first leg starts at its Start point, whose map position may never
+            // have been worked out (a loaded path not yet selected): from its text, no circle.
+            if (!doc.WPLat(p, 0).empty())
+                projection.ProjectPoint(doc.WPLat(p, 0), doc.WPLon(p, 0), doc.WPMapX(p, 0),
+                                        doc.WPMapY(p, 0));
             surface.SetForeColor(kOverlayPathColour);
         }
         const Colour pathColour = surface.ForeColor();

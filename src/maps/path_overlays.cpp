@@ -4,6 +4,7 @@
 #include "maps/path_drawing.h"
 #include "shell/editor.h"
 #include "shell/forms/frm_mission.h"
+#include "shell/sounds.h"
 
 namespace tarvex {
 
@@ -21,6 +22,10 @@ void chkOverlay_Click(Editor& ed, int path) {
     if (onlyClear) map->Cls();
     if (!onlyClear && map) DrawPaths(ed, *map);
     DrawLayoutMarkers(ed);
+}
+
+void chkOverlay_MouseDown(Editor& ed, int, int, int, float, float) {
+    PlaySound(ed, ed.shell.sndCheckbox);
 }
 
 }  // namespace tarvex

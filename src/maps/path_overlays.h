@@ -12,5 +12,6 @@ void RefreshOverlayChecks(Editor& ed);
 // unchecking on the Ground units tab outside the layout editor only clears that map, for the
 // layout markers to be drawn again over the bitmap.
 void chkOverlay_Click(Editor& ed, int path);
+void chkOverlay_MouseDown(Editor& ed, int path, int button, int shift, float x, float y);
 
 }  // namespace tarvex

@@ -6,6 +6,7 @@
 #include "maps/map_loading.h"
 #include "maps/path_drawing.h"
 #include "maps/runway_controls.h"
+#include "maps/waypoint_controls.h"
 #include "shell/editor.h"
 #include "shell/forms/frm_mission.h"
 #include "shell/forms/mdi_mission_ed.h"
@@ -93,13 +94,6 @@ void SelectTab(Editor& ed, int tab) {
 
     ed.drawing.ShownTab = tab;
     SetTabMenuChecked(ed, tab, true);
-}
-
-void SetEditMenusEnabled(Editor& ed, bool state) {
-    auto& mdi = ed.MDIMissionED;
-    mdi.mnuDel.SetEnabled(state);
-    mdi.mnuClrPoints.SetEnabled(state);
-    mdi.mnuClrMap.SetEnabled(state);
 }
 
 void SetTabMenuChecked(Editor& ed, int tab, bool state) {

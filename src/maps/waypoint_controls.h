@@ -7,4 +7,7 @@ class Editor;
 
 void SetWaypointControlsEnabled(Editor& ed, bool state);
 
+// The Edit menu's entries for waypoints (mnuDel, mnuClrPoints and mnuClrMap) follow `state`.
+void SetEditMenusEnabled(Editor& ed, bool state);
+
 }  // namespace tarvex

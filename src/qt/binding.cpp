@@ -114,6 +114,8 @@ ControlBinding::ControlBinding(Control& model, QWidget* widget, QPointF origin)
                           (model.Index() >= 0 ? QString("(%1)").arg(model.Index()) : QString()));
     widget->installEventFilter(this);
     listener_ = model.AddListener([this](Aspect aspect) { OnModel(aspect); });
+    // A handler of the pointer's moves hears them with no button down too (status texts).
+    if (model.MouseMove) widget->setMouseTracking(true);
 }
 
 ControlBinding::~ControlBinding() {
@@ -132,6 +134,7 @@ void ControlBinding::SetOrigin(QPointF origin) {
 
 void ControlBinding::WatchChild(QWidget* child) {
     child->installEventFilter(this);
+    if (model_.MouseMove) child->setMouseTracking(true);
 }
 
 QPointF ControlBinding::MapUnitsAt(const QWidget* target, QPointF position) const {

@@ -59,6 +59,9 @@ class ControlBinding : public QObject {
     virtual void SyncAppearance();
     // Widgets that show their own text in the control's colours.
     virtual bool PaintsBackColour() const { return false; }
+    // A list selects the row under the pointer before its MouseDown and MouseMove, so that
+    // their handlers read the pressed row (and the row a drag has reached) from ListIndex.
+    virtual bool SelectsBeforeMouseEvents() const { return false; }
     bool eventFilter(QObject* watched, QEvent* event) override;
     // Whether code is updating the widget (its echoes are ignored).
     bool Syncing() const { return syncing_ > 0; }

@@ -72,6 +72,11 @@ class CaptionBinding : public ControlBinding {
 
   protected:
     bool PaintsBackColour() const override { return ownColours_; }
+    void SyncAppearance() override {
+        ControlBinding::SyncAppearance();
+        // A frame covers what lies under it, as a panel opened over other controls must.
+        if constexpr (std::is_same_v<WidgetKind, QGroupBox>) widget_->setAutoFillBackground(true);
+    }
     void Sync(Aspect aspect) override {
         if (aspect == Aspect::Text || aspect == Aspect::Appearance)
             ShowCaption(widget_, model_.Caption());

@@ -1,5 +1,6 @@
 #include "qt/grid_view.h"
 
+#include <QApplication>
 #include <QHeaderView>
 
 #include "qt/binding.h"
@@ -52,6 +53,16 @@ GridView::GridView(DataGrid& model, QWidget* parent) : QTableWidget(parent), mod
     });
     connect(horizontalHeader(), &QHeaderView::sectionClicked, this,
             [this](int col) { Guarded([&] { model_.UserHeadClick(col); }); });
+    // The record selectors select rows, Ctrl adding to the rows selected.
+    connect(verticalHeader(), &QHeaderView::sectionClicked, this, [this](int row) {
+        const bool add = QApplication::keyboardModifiers().testFlag(Qt::ControlModifier);
+        Guarded([&] { model_.UserSelectRow(row, add); });
+    });
+    // A click on the current cell of a column with a button presses the button.
+    connect(this, &QTableWidget::cellClicked, this, [this](int row, int col) {
+        if (col < model_.ColumnCount() && model_.Columns(col).Button() && row == model_.Row())
+            Guarded([&] { model_.UserButtonClick(); });
+    });
 }
 
 ControlBinding* GridView::Bind(QPointF origin) {

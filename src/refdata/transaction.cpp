@@ -21,4 +21,13 @@ void Transaction::Commit() noexcept {
     }
 }
 
+void Transaction::Rollback() noexcept {
+    if (!open_) return;
+    open_ = false;
+    try {
+        db_.Execute("ROLLBACK");
+    } catch (...) {
+    }
+}
+
 }  // namespace tarvex

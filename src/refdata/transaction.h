@@ -16,6 +16,9 @@ class Transaction {
 
     // Ends the transaction early, keeping what was written.
     void Commit() noexcept;
+    // Ends it dropping everything written since it began: for writes that belong together
+    // and failed half-way.
+    void Rollback() noexcept;
 
   private:
     Database& db_;

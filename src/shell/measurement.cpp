@@ -5,6 +5,7 @@
 
 #include "common/number_text.h"
 #include "common/numbers.h"
+#include "ground/offsets_window.h"
 #include "maps/path_drawing.h"
 #include "shell/editor.h"
 #include "shell/forms/frm_mission.h"
@@ -51,8 +52,8 @@ void mnuDist_Click(Editor& ed) {
     ed.options.Measurement = !ed.options.Measurement;
     ApplyMeasurement(ed);
     ConvertSpeeds(ed);
-    // TODO: reload frmGUOffsets with the offsets query of the new unit system when it is open,
-    // once the offsets window is in.
+    // The offsets window shows metres or feet by its query.
+    if (ed.ground.OffsetsOpen) SetOffsetsSource(ed);
     // The path length read-out is in the new unit.
     DrawPaths(ed, ed.FrmMission.mapWayPoints);
 }

@@ -1,5 +1,6 @@
 #include "shell/options_menu.h"
 
+#include "ground/offsets_window.h"
 #include "shell/editor.h"
 #include "shell/forms/mdi_mission_ed.h"
 
@@ -70,9 +71,10 @@ void mnuAutoUpdate_Click(Editor& ed) {
 void mnuTooltips_Click(Editor& ed) {
     auto& entry = ed.MDIMissionED.mnuTooltips;
     // TODO: ClearTooltips(ed) when the entry is checked, SetTooltips(ed) otherwise, and the
-    // tooltips of frmGUOffsets and frmtblMissions, once the tooltip texts are in.
+    // tooltips of frmtblMissions, once the tooltip texts are in.
     entry.SetChecked(!entry.Checked());
     ed.options.ToolTipsOn = entry.Checked();
+    SetOffsetsTips(ed);
 }
 
 }  // namespace tarvex

@@ -75,9 +75,12 @@ TEST(MissionResetTest, EmptiesTheDocumentToItsConventions) {
 
     for (int p : {0, 7, 16}) {
         EXPECT_EQ(doc.PathPointCount(p), 0);
-        EXPECT_EQ(doc.PathAirfieldStart(p), 255);
         EXPECT_EQ(doc.PathAirfieldEnd(p), 255);
     }
+    // Selecting path 0 at the end gives it the default Start row, with or without airfields
+    // to show.
+    EXPECT_EQ(doc.PathAirfieldStart(0), 16);
+    EXPECT_EQ(doc.PathAirfieldStart(7), 255);
     // The first group of a new mission takes off and lands; the others stay in the air.
     EXPECT_EQ(doc.GrpTakeoffFlag(0), 3);
     EXPECT_EQ(doc.GrpTakeoffFlag(1), 0);
@@ -129,6 +132,7 @@ TEST(MissionResetTest, SelectsPathZeroLastOnCleanArrays) {
     ed.FrmMission.optColor(0).SetValue(true);
     std::vector<std::string> clicks;
     for (int p : {0, 15}) {
+        ed.FrmMission.optColor(p).Click.Disconnect();
         ed.FrmMission.optColor(p).Click.Connect([&ed, &clicks, p] {
             clicks.push_back(std::to_string(p) + ":" + ed.doc.WPLat(0, 1) + ":" +
                              std::to_string(ed.doc.PathPointCount(0)));

@@ -196,6 +196,26 @@ TEST_F(PathDrawingTest, OverlayBoxesDecideWhichOtherPathsShow) {
     EXPECT_EQ(yellowOps(), 6);
 }
 
+TEST_F(PathDrawingTest, AnOverlaysFirstLegStartsAtItsStartPointWorkedOutFromItsText) {
+    SetPath(0, {"N50 00.00", "N51 00.00", "N52 00.00"});
+    SetPath(2, {"N49 00.00", "N49 30.00", "N50 00.00"});
+    // Never selected since it was loaded: the map position of its Start was never worked out.
+    ed.doc.WPMapX(2, 0) = 0;
+    ed.doc.WPMapY(2, 0) = 0;
+    frm.chkOverlay(2).SetValue(kChecked);
+    DrawPaths(ed, frm.mapWayPoints);
+    float x = 0;
+    float y = 0;
+    ed.projection.ProjectPoint("N49 00.00", "W01 30.00", x, y);
+    std::vector<DrawOp> yellow;
+    for (const DrawOp& op : frm.mapWayPoints.Operations())
+        if (op.pen == kYellow && op.kind != DrawKind::Text) yellow.push_back(op);
+    ASSERT_EQ(yellow.size(), 4u);  // circle and leg of its two points: no circle for the Start
+    EXPECT_EQ(yellow[0].kind, DrawKind::Circle);
+    EXPECT_FLOAT_EQ(yellow[1].x1, x);
+    EXPECT_FLOAT_EQ(yellow[1].y1, y);
+}
+
 TEST_F(PathDrawingTest, OverlayClickRedrawsOrClearsTheActiveMap) {
     SetPath(0, {"N50 00.00", "N51 00.00", "N52 00.00"});
     SetPath(3, {"N50 00.00", "N50 30.00", "N51 00.00"});

@@ -73,6 +73,7 @@ TEST_F(TabSelectionTest, CheckMarkAndEditMenusFollowTheTab) {
 }
 
 TEST_F(TabSelectionTest, WaypointsTabLoadsItsMapAndShowsThePath) {
+    frm.cmbEndAtRwy.SetListIndex(5);
     ed.doc.PathAirfieldStart(0) = 2;
     ed.doc.PathAirfieldEnd(0) = Mission::kNoAirfield;
     frm.cmbRunways.SetVisible(false);
@@ -82,7 +83,7 @@ TEST_F(TabSelectionTest, WaypointsTabLoadsItsMapAndShowsThePath) {
     EXPECT_EQ(frm.fraAirfields.Left(), 5292);
     EXPECT_EQ(frm.fraAirfields.Top(), 384);
     EXPECT_EQ(frm.cmbStartAtRwy.ListIndex(), 2);
-    EXPECT_EQ(frm.cmbEndAtRwy.ListIndex(), -1);
+    EXPECT_EQ(frm.cmbEndAtRwy.ListIndex(), 5);  // no End airfield: the combo stays
     EXPECT_EQ(ed.ActiveMap, &frm.mapWayPoints);
     EXPECT_EQ(frm.mapWayPoints.Picture(), (t.folder / "Map1.bmp").string());
     EXPECT_EQ(ed.projection.MapWidth, 6000);

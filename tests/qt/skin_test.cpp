@@ -18,6 +18,7 @@
 #include <QSpinBox>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTableWidget>
 #include <QTest>
 #include <filesystem>
 #include <functional>
@@ -26,6 +27,7 @@
 
 #include "app/scratch_editor.h"
 #include "common/error.h"
+#include "ground/layout_lists.h"
 #include "platform/scripted_platform.h"
 #include "qt/binding.h"
 #include "qt/editor_session.h"
@@ -33,6 +35,7 @@
 #include "qt/form_view.h"
 #include "qt/services.h"
 #include "qt/widget_factory.h"
+#include "refdata/recordset.h"
 #include "scenario/scenario_run.h"
 #include "scenario/scenario_script.h"
 #include "shell/forms/frm_aircraft.h"
@@ -142,6 +145,8 @@ TEST_F(SkinTest, PointerOnTheMapReachesTheCoreInMapUnits) {
         float x, y;
     };
     std::vector<Press> seen;
+    model.MouseDown.Disconnect();
+    model.MouseUp.Disconnect();
     model.MouseDown.Connect([&](int b, int s, float x, float y) {
         seen.push_back({"down", b, s, x, y});
     });
@@ -172,6 +177,35 @@ TEST_F(SkinTest, PointerOnTheMapReachesTheCoreInMapUnits) {
             EXPECT_FLOAT_EQ(press.y, c.at.y() * 15.0f);
         }
     }
+}
+
+TEST_F(SkinTest, AClickOnTheMapAddsAWaypointAndADragMovesIt) {
+    session->ShowTab(3);
+    QApplication::processEvents();
+    QWidget* map = Widget("mapWayPoints");
+    ASSERT_NE(map, nullptr);
+    Editor& ed = session->ed();
+    const Mission& doc = ed.doc;
+
+    QTest::mouseMove(map, {100, 80});
+    QTest::mouseClick(map, Qt::LeftButton, {}, {100, 80});
+    ASSERT_EQ(ed.FrmMission.lstPoints.ListCount(), 1);
+    EXPECT_EQ(doc.PathPointCount(0), 2);
+    // The map positions come back from the coordinate text, within a unit of the pointer's.
+    EXPECT_NEAR(doc.WPMapX(0, 1), 100 * 15, 2);
+    EXPECT_NEAR(doc.WPMapY(0, 1), 80 * 15, 2);
+    const std::string placed = doc.WPLat(0, 1) + " " + doc.WPLon(0, 1);
+    EXPECT_EQ(ed.FrmMission.lstPoints.List(0), "01. " + placed);
+
+    QTest::mousePress(map, Qt::LeftButton, {}, {101, 81});
+    QTest::mouseMove(map, {130, 100});
+    QTest::mouseMove(map, {160, 120});
+    QTest::mouseRelease(map, Qt::LeftButton, {}, {160, 120});
+    EXPECT_EQ(ed.FrmMission.lstPoints.ListCount(), 1);
+    EXPECT_NEAR(doc.WPMapX(0, 1), 160 * 15, 2);
+    EXPECT_NEAR(doc.WPMapY(0, 1), 120 * 15, 2);
+    EXPECT_NE(doc.WPLat(0, 1) + " " + doc.WPLon(0, 1), placed);
+    EXPECT_EQ(ed.FrmMission.lstPoints.List(0), "01. " + doc.WPLat(0, 1) + " " + doc.WPLon(0, 1));
 }
 
 TEST_F(SkinTest, UserChoicesAndCodeSelectionsAreOneEvent) {
@@ -515,6 +549,46 @@ TEST_F(SkinTest, AFailureThatEscapesAHandlerEndsInTheErrorBox) {
         EXPECT_EQ(dialogs.messages.back().title, "Error");
         EXPECT_EQ(dialogs.messages.back().icon, MsgIcon::Critical);
     }
+}
+
+TEST_F(SkinTest, OffsetsWindowOpensOnTopBesideTheEditorAndItsCellsReachTheDatabase) {
+    Editor& ed = session->ed();
+    auto& frm = ed.FrmMission;
+    ed.db.theDB.Execute(
+        "INSERT INTO GrndNames (ID,LayoutName,UnitTotal,IsDefault,GUType) VALUES "
+        "(9001,'AA Decoy',4001,0,1); INSERT INTO GrndTypes (ID,UnitType,XOffset,YOffset) VALUES "
+        "(9001,4001,0.1,0.2);");
+    FillLayoutLists(ed);
+    ed.options.ShowDataWin = true;
+    session->ShowTab(2);
+    frm.lstGrnUnits.SetListIndex(frm.lstGrnUnits.FindRow("AA Decoy"));
+    QWidget* map = Widget("mapGroundUnits");
+    QTest::mouseClick(map, Qt::LeftButton, {}, QPoint(100, 120));
+    frm.lstGUAdded.SetListIndex(0);
+    frm.lstGUAdded.RaiseDblClick();
+    QApplication::processEvents();
+
+    FormView* offsets = session->window().FormWindow("frmGUOffsets");
+    ASSERT_NE(offsets, nullptr);
+    QWidget* window = offsets->window();
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_TRUE(window->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+    EXPECT_EQ(window->windowTitle(), "AA Decoy");
+    EXPECT_EQ(window->pos(),
+              QPoint(Px(ed.MDIMissionED.Left() + 96), Px(ed.MDIMissionED.Top() + 672)));
+
+    auto* grid = qobject_cast<QTableWidget*>(offsets->WidgetOf("dbgGUOffsets"));
+    ASSERT_NE(grid, nullptr);
+    ASSERT_EQ(grid->rowCount(), 1);
+    // Metric units are off in this run: feet.
+    EXPECT_EQ(grid->item(0, 4)->text(), "328.1");
+    grid->item(0, 4)->setText("1640.4");
+    QApplication::processEvents();
+    Recordset rs =
+        ed.db.theDB.OpenRecordset("SELECT XOffset FROM GrndTypes Where ID=9001", kSnapshot);
+    rs.MoveFirst();
+    EXPECT_DOUBLE_EQ(rs.Fields(0).Double(), 0.5);
+    EXPECT_EQ(grid->item(0, 4)->text(), "1640.4");
 }
 
 TEST(SkinServices, FileFiltersTakeQtsForm) {

@@ -199,6 +199,7 @@ TEST(ComboBoxTest, OpenListFollowsTheHighlightQuietlyAndTheChoiceClicks) {
     combo.Click.Connect([&] { events.push_back("click " + std::to_string(combo.ListIndex())); });
     combo.Highlight.Connect([&](int row) { events.push_back("highlight " + combo.List(row)); });
     combo.UserPick.Connect([&] { events.push_back("pick " + combo.Text()); });
+    combo.DropCancel.Connect([&] { events.push_back("cancel " + combo.Text()); });
 
     combo.UserHighlight(1);
     combo.UserHighlight(2);
@@ -207,10 +208,12 @@ TEST(ComboBoxTest, OpenListFollowsTheHighlightQuietlyAndTheChoiceClicks) {
     combo.UserHighlight(0);
     combo.UserChoose(2);
     combo.UserHighlight(1);
-    combo.UserChoose(2);  // the row it had before the list opened: no Click
-    EXPECT_EQ(events, (std::vector<std::string>{"highlight Hawkinge", "highlight Manston",
-                                                "highlight Biggin Hill", "click 2", "pick Manston",
-                                                "highlight Hawkinge", "pick Manston"}));
+    combo.UserChoose(2);     // the row it had before the list opened: no Click
+    combo.UserCancelDrop();  // no list open: nothing
+    EXPECT_EQ(events,
+              (std::vector<std::string>{"highlight Hawkinge", "highlight Manston", "cancel ",
+                                        "highlight Biggin Hill", "click 2", "pick Manston",
+                                        "highlight Hawkinge", "pick Manston"}));
 }
 
 TEST(ComboBoxTest, FillingThroughTheItemListInterface) {

@@ -82,6 +82,7 @@ void ComboBox::UserCancelDrop() {
     const int before = rowBeforeDrop_;
     rowBeforeDrop_ = kNotDropped;
     MoveQuietly(before < ListCount() ? before : -1);
+    if (DropCancel) DropCancel();
 }
 
 void ComboBox::ListEvents(std::vector<NamedEvent>& out) const {
@@ -90,6 +91,7 @@ void ComboBox::ListEvents(std::vector<NamedEvent>& out) const {
     out.push_back({"DropDown", &DropDown});
     out.push_back({"Highlight", &Highlight});
     out.push_back({"UserPick", &UserPick});
+    out.push_back({"DropCancel", &DropCancel});
 }
 
 }  // namespace tarvex

@@ -18,7 +18,8 @@ constexpr int kComboDropDownList = 2;  // the text is always the selected row's
 // list does, without Click: UserHighlight moves it quietly and raises Highlight(row). The
 // user's choice (UserChoose) raises Click when the chosen row differs from the row selected
 // before the list opened, then UserPick (the command notification the forms watch).
-// UserCancelDrop puts the row selected before the list opened back, quietly.
+// UserCancelDrop puts the row selected before the list opened back, quietly, then raises
+// DropCancel: the list closed without a choice after the highlight had moved.
 class ComboBox : public ListControl {
   public:
     using ListControl::ListControl;
@@ -47,6 +48,7 @@ class ComboBox : public ListControl {
     Event<> DropDown;
     Event<int> Highlight;  // the row under the pointer
     Event<> UserPick;
+    Event<> DropCancel;
 
   protected:
     void ListEvents(std::vector<NamedEvent>& out) const override;

@@ -4,6 +4,7 @@
 #include <cctype>
 
 #include "common/error.h"
+#include "common/number_text.h"
 #include "refdata/database_errors.h"
 
 namespace tarvex {
@@ -60,6 +61,18 @@ void GridColumn::SetButton(bool button) {
     if (button == button_) return;
     button_ = button;
     Changed();
+}
+
+void GridColumn::SetNumberFormat(const std::string& mask) {
+    if (mask == numberFormat_) return;
+    numberFormat_ = mask;
+    Changed();
+}
+
+std::string GridColumn::Shown(const FieldValue& value) const {
+    const bool number =
+        value.GetKind() == FieldValue::Kind::Integer || value.GetKind() == FieldValue::Kind::Real;
+    return number && !numberFormat_.empty() ? Format(value.Double(), numberFormat_) : value.Text();
 }
 
 float GridColumn::Left() const {
@@ -315,7 +328,7 @@ int DataGrid::ColContaining(float x) const {
 
 std::string DataGrid::CellText(int row, int col) const {
     if (col < 0 || col >= ColumnCount()) return {};
-    if (row == Row()) return CurrentValue(col).Text();
+    if (row == Row()) return Columns(col).Shown(CurrentValue(col));
     if (row < 0 || row >= static_cast<int>(rowTexts_.size())) return {};
     const auto& texts = rowTexts_[row];
     return col < static_cast<int>(texts.size()) ? texts[col] : std::string();
@@ -352,6 +365,9 @@ void DataGrid::ReadRows() {
         std::vector<int> fields;
         for (const auto& column : columns_)
             fields.push_back(FieldIndex(column->DataField()));
+        const auto shown = [&](size_t c, int field) {
+            return field < 0 ? std::string() : columns_[c]->Shown(rs->Value(field));
+        };
         rowTexts_.clear();
         rowBookmarks_.clear();
         const int count = rs->RecordCount();
@@ -359,8 +375,8 @@ void DataGrid::ReadRows() {
             rs->SetAbsolutePosition(i);
             rowBookmarks_.push_back(rs->Bookmark());
             std::vector<std::string> texts;
-            for (int field : fields)
-                texts.push_back(field < 0 ? std::string() : rs->Value(field).Text());
+            for (size_t c = 0; c < fields.size(); ++c)
+                texts.push_back(shown(c, fields[c]));
             rowTexts_.push_back(std::move(texts));
         }
         if (position >= 0) {

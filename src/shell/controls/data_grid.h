@@ -42,6 +42,12 @@ class GridColumn {
     void SetButton(bool button);
     // Left edge in the grid's map units, after the record selectors and the columns before.
     float Left() const;
+    // A mask of common/number_text (such as "0.0") for the numbers the column shows; empty
+    // shows them as stored. Values read and typed are not touched.
+    const std::string& NumberFormat() const { return numberFormat_; }
+    void SetNumberFormat(const std::string& mask);
+    // A value as the column shows it.
+    std::string Shown(const FieldValue& value) const;
 
     // The value of this column in the current row (its edit, while one is under way); empty
     // on the new row before anything was entered.
@@ -61,6 +67,7 @@ class GridColumn {
     float width_ = 1000;
     bool visible_ = true;
     bool button_ = false;
+    std::string numberFormat_;
 };
 
 class DataGrid : public Control {

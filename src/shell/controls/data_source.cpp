@@ -111,6 +111,7 @@ void DataSource::Close() {
 
 void DataSource::ReportUserError(const AppError& error) {
     int response = kDataErrDisplay;
+    errorText_ = error.Description();
     if (Error) Error(error.Number(), response);
     if (response != kDataErrContinue) throw error;
 }

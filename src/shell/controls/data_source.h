@@ -49,6 +49,8 @@ class DataSource : public CaptionControl {
     // The open recordset; error 91 when there is none.
     tarvex::Recordset& Recordset();
     bool HasRecordset() const { return recordset_.IsOpen(); }
+    // The source's own connection, for a transaction around several changes of its rows.
+    tarvex::Database& Connection() { return database_; }
 
     // Stores the row being added or edited (Validate with kDataActionUpdate first); nothing
     // when no row is being changed.
@@ -64,6 +66,9 @@ class DataSource : public CaptionControl {
 
     // Runs the Error event for a failure of a user's action; rethrows unless handled.
     void ReportUserError(const AppError& error);
+    // The description of the failure that the Error event is reporting (the engine's words
+    // for a refused row).
+    const std::string& ErrorText() const { return errorText_; }
     // Tells bound grids and the skin that the rows changed under the recordset.
     void RowsChanged() { Notify(Aspect::Rows); }
     void RaiseReposition();
@@ -82,6 +87,7 @@ class DataSource : public CaptionControl {
     // Validate ahead of a move or store; false when the handler cancelled the action.
     bool RunValidate(int action);
 
+    std::string errorText_;
     std::string databaseName_;
     std::string recordSource_;
     std::string openedName_;

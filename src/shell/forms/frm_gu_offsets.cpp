@@ -21,6 +21,8 @@ frmGUOffsets::frmGUOffsets() : Form("frmGUOffsets") {
         {"Dmg", "DamageID"},
     };
     AddColumns(dbgGUOffsets, columns);
+    dbgGUOffsets.Columns(4).SetNumberFormat("0.0");
+    dbgGUOffsets.Columns(5).SetNumberFormat("0.0");
 
     // The spinner with the direction of each of its arrows beside it, and Delete below.
     Add(NAMED(Picture1), Self(), {0, Height() - kPanelHeight, Width(), kPanelHeight});

@@ -1,0 +1,38 @@
+#include "refdata/record_windows.h"
+
+#include "shell/editor.h"
+#include "shell/forms/frm_aircraft.h"
+#include "shell/forms/frm_grnd_names.h"
+#include "shell/forms/frm_tbl_missions.h"
+#include "shell/forms/mdi_mission_ed.h"
+
+namespace tarvex {
+
+void ShowDataError(Editor& ed, const std::string& text) {
+    MessageBoxRequest box;
+    box.text = "Data error event hit err:" + text;
+    ed.svc.dialogs.MsgBox(box);
+}
+
+void RefreshRecordSource(DataSource& source) {
+    try {
+        source.Refresh();
+    } catch (const AppError& error) {
+        source.ReportUserError(error);
+    }
+}
+
+bool LayoutEditorOpen(Editor& ed) {
+    // Of the entries the layout editor locks, only this one is locked by nothing else.
+    return !ed.MDIMissionED.mnuAddAC.Enabled();
+}
+
+void UnlockCompactMenu(Editor& ed, const Form& closing) {
+    const Form* windows[] = {&ed.frmAircraft, &ed.frmGrndNames, &ed.frmtblMissions};
+    for (const Form* window : windows)
+        if (window != &closing && window->Loaded()) return;
+    if (LayoutEditorOpen(ed)) return;
+    ed.MDIMissionED.mnuCompact.SetEnabled(true);
+}
+
+}  // namespace tarvex
