@@ -15,6 +15,13 @@ std::string Utf8ToCp1252(std::string_view text);
 // control characters of the same number, so they survive a round trip.
 std::string Cp1252ToUtf8(std::string_view bytes);
 
+// The UTF-8 bytes of a code point.
+void AppendUtf8(std::string& out, char32_t codePoint);
+
+// The code point of the UTF-8 sequence at text[i], moving i past it. A broken sequence is
+// false, with i moved past its first byte.
+bool NextCodePoint(std::string_view text, size_t& i, char32_t& codePoint);
+
 // The lines of a text: CR LF, a lone LF and a lone CR each end a line. A line end at the very
 // end starts no further line, so "a\r\n" is one line and "" none.
 std::vector<std::string> SplitLines(std::string_view text);

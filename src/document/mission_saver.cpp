@@ -8,7 +8,7 @@
 #include "common/number_text.h"
 #include "common/paths.h"
 #include "common/text.h"
-#include "document/atomic_file_writer.h"
+#include "common/atomic_file_writer.h"
 #include "document/mission_export.h"
 #include "document/mission_validation.h"
 #include "document/mission_writers.h"
