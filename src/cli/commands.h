@@ -54,4 +54,8 @@ int RunPlay(const CommonOptions& options, const PlayOptions& play, std::ostream&
 int RunInfo(const CommonOptions& options, const std::string& in, bool json, std::ostream& cout,
             std::ostream& cerr);
 
+// Fills tblMissions of the database from the simulator's missions folder, as the editor's
+// Missions Summary does, and prints the number of missions read (or, as JSON, the rows).
+int RunScan(const CommonOptions& options, bool json, std::ostream& cout, std::ostream& cerr);
+
 }  // namespace tarvex::cli

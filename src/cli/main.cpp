@@ -75,6 +75,14 @@ int main(int argc, char** argv) {
     info->add_flag("--json", json, "Print JSON");
     AddCommonOptions(info, options);
 
+    CLI::App* scan = app.add_subcommand(
+        "scan",
+        "Fill tblMissions of the database from the simulator's missions folder, as the "
+        "editor's Tools > Missions Summary does, and print the number of missions read. "
+        "Exit 1: a file ended the scan (the missions before it are kept).");
+    scan->add_flag("--json", json, "Print the rows as JSON");
+    AddCommonOptions(scan, options);
+
     tarvex::cli::PlayOptions play;
     CLI::App* playCommand = app.add_subcommand(
         "play",
@@ -100,6 +108,7 @@ int main(int argc, char** argv) {
         if (*resave) return tarvex::cli::RunResave(options, in, out, std::cout, std::cerr);
         if (*check) return tarvex::cli::RunCheck(options, files, std::cout, std::cerr);
         if (*exportCommand) return tarvex::cli::RunExport(options, in, std::cout, std::cerr);
+        if (*scan) return tarvex::cli::RunScan(options, json, std::cout, std::cerr);
         if (*playCommand) return tarvex::cli::RunPlay(options, play, std::cout, std::cerr);
         return tarvex::cli::RunInfo(options, in, json, std::cout, std::cerr);
     } catch (const std::exception& e) {

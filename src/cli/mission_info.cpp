@@ -49,6 +49,8 @@ std::string Fixed(double value) {
     return buffer;
 }
 
+}  // namespace
+
 std::string JsonText(const std::string& text) {
     std::string out = "\"";
     for (const char c : text) {
@@ -81,8 +83,6 @@ std::string JsonText(const std::string& text) {
     }
     return out + "\"";
 }
-
-}  // namespace
 
 MissionInfo CollectMissionInfo(Editor& ed) {
     const Mission& doc = ed.doc;

@@ -53,6 +53,8 @@ struct MissionInfo {
 MissionInfo CollectMissionInfo(Editor& ed);
 
 std::string FormatInfoText(const MissionInfo& info);
+// A text as a JSON string, quotes and escapes included.
+std::string JsonText(const std::string& text);
 std::string FormatInfoJson(const MissionInfo& info);
 
 }  // namespace tarvex::cli

@@ -94,10 +94,17 @@ std::string Utf8ToCp1252(std::string_view text) {
 std::string Cp1252ToUtf8(std::string_view bytes) {
     std::string out;
     out.reserve(bytes.size());
-    for (const char c : bytes) {
-        const auto b = static_cast<uint8_t>(c);
-        const char32_t cp = (b >= 0x80 && b < 0xA0) ? kHighTable[b - 0x80] : b;
-        AppendUtf8(out, cp);
+    // Runs of ASCII, which is nearly all of a mission, go across as they stand.
+    size_t i = 0;
+    while (i < bytes.size()) {
+        size_t ascii = i;
+        while (ascii < bytes.size() && static_cast<uint8_t>(bytes[ascii]) < 0x80)
+            ++ascii;
+        out.append(bytes.data() + i, ascii - i);
+        if (ascii == bytes.size()) break;
+        const auto b = static_cast<uint8_t>(bytes[ascii]);
+        AppendUtf8(out, b < 0xA0 ? kHighTable[b - 0x80] : b);
+        i = ascii + 1;
     }
     return out;
 }

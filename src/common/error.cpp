@@ -7,18 +7,30 @@ AppError::AppError(int number, std::string description)
 
 std::string StandardDescription(int number) {
     switch (number) {
-        case kErrInvalidCall: return "Invalid procedure call or argument";
-        case kErrOverflow: return "Overflow";
-        case kErrSubscript: return "Subscript out of range";
-        case kErrTypeMismatch: return "Type mismatch";
-        case kErrOutOfStack: return "Out of stack space";
-        case kErrFileNotFound: return "File not found";
-        case kErrPermissionDenied: return "Permission denied";
-        case kErrPathAccess: return "Path/File access error";
-        case kErrInvalidProperty: return "Invalid property value";
-        case kErrNoCurrentRecord: return "No current record.";
-        case kErrCancel: return "Cancel was selected.";
-        default: return {};
+        case kErrInvalidCall:
+            return "Invalid procedure call or argument";
+        case kErrOverflow:
+            return "Overflow";
+        case kErrSubscript:
+            return "Subscript out of range";
+        case kErrTypeMismatch:
+            return "Type mismatch";
+        case kErrOutOfStack:
+            return "Out of stack space";
+        case kErrFileNotFound:
+            return "File not found";
+        case kErrPermissionDenied:
+            return "Permission denied";
+        case kErrPathAccess:
+            return "Path/File access error";
+        case kErrInvalidProperty:
+            return "Invalid property value";
+        case kErrNoCurrentRecord:
+            return "No current record.";
+        case kErrCancel:
+            return "Cancel was selected.";
+        default:
+            return {};
     }
 }
 

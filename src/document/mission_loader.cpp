@@ -134,7 +134,13 @@ void RebuildTabs(Editor& ed) {
     if (!ed.options.Measurement) ConvertSpeeds(ed);
 
     ed.StepText = "Setting Map Combo";
-    frm.cmbGUMap.SetListIndex(frm.cmbSelectMap.ListIndex());
+    // The load placed the markers on whatever map was shown before; the combo's click places
+    // them on the mission's map, also when the combo already stands on its row.
+    if (frm.cmbGUMap.ListIndex() == frm.cmbSelectMap.ListIndex()) {
+        frm.cmbGUMap.RaiseClick();
+    } else {
+        frm.cmbGUMap.SetListIndex(frm.cmbSelectMap.ListIndex());
+    }
 
     frm.btnGrpView.SetEnabled(true);
     // The load may have added layouts.

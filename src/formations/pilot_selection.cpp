@@ -33,7 +33,13 @@ void lstPilotName_Click(Editor& ed) {
         ShowCombo(frm.cmbLevel, doc.PilotLevel(g, row));
         if (doc.PilotAC(g, row) != Mission::kUnsetPilotValue) {
             const int acRow = FindAircraftRow(ed, doc.PilotAC(g, row));
-            if (acRow >= 0) frm.cmbMovingType.SetListIndex(acRow);
+            // Shown again when the combo already stands on it: the marked buttons and Auto
+            // Update follow every pilot shown, not only a change of aircraft.
+            if (acRow >= 0 && acRow == frm.cmbMovingType.ListIndex()) {
+                frm.cmbMovingType.RaiseClick();
+            } else if (acRow >= 0) {
+                frm.cmbMovingType.SetListIndex(acRow);
+            }
         }
         ShowCombo(frm.cmbDamage, doc.PilotDamage(g, row));
 

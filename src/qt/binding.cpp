@@ -1,6 +1,7 @@
 #include "qt/binding.h"
 
 #include <QApplication>
+#include <QDropEvent>
 #include <QEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -116,6 +117,8 @@ ControlBinding::ControlBinding(Control& model, QWidget* widget, QPointF origin)
     listener_ = model.AddListener([this](Aspect aspect) { OnModel(aspect); });
     // A handler of the pointer's moves hears them with no button down too (status texts).
     if (model.MouseMove) widget->setMouseTracking(true);
+    // A control that takes dropped files says so in its events.
+    if (model.OLEDragOver || model.OLEDragDrop) widget->setAcceptDrops(true);
 }
 
 ControlBinding::~ControlBinding() {
@@ -288,6 +291,28 @@ bool ControlBinding::eventFilter(QObject* watched, QEvent* event) {
             });
             if (!deliverFirst()) return true;
             Guarded([&] { model_.RaiseDblClick(); });
+            return true;
+        }
+        case QEvent::DragEnter:
+        case QEvent::DragMove: {
+            if (target != widget_) return false;
+            auto* drag = static_cast<QDragMoveEvent*>(event);
+            int effect = kDropEffectNone;
+            Guarded([&] { effect = model_.RaiseDragOver(DragDataOf(drag->mimeData())); });
+            if (effect == kDropEffectNone) {
+                drag->ignore();
+            } else {
+                drag->setDropAction(effect & kDropEffectCopy ? Qt::CopyAction : Qt::MoveAction);
+                drag->accept();
+            }
+            return true;
+        }
+        case QEvent::Drop: {
+            if (target != widget_) return false;
+            auto* drop = static_cast<QDropEvent*>(event);
+            const DragData data = DragDataOf(drop->mimeData());
+            drop->acceptProposedAction();
+            Guarded([&] { model_.RaiseDragDrop(data); });
             return true;
         }
         case QEvent::KeyPress:

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QHeaderView>
+#include <QScrollBar>
 
 #include "qt/binding.h"
 
@@ -36,7 +37,13 @@ GridView::GridView(DataGrid& model, QWidget* parent) : QTableWidget(parent), mod
     setSelectionMode(QAbstractItemView::SingleSelection);
     setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
                     QAbstractItemView::AnyKeyPressed);
-    verticalHeader()->setDefaultSectionSize(Px(model.RowHeight()) + 2);
+    // Rows and the head as the model measures them, so that what the model lays over a cell
+    // (a browse button, a pick list) stands on it.
+    const int rowHeight = Px(model.RowHeight()) + 2;
+    verticalHeader()->setMinimumSectionSize(rowHeight);
+    verticalHeader()->setDefaultSectionSize(rowHeight);
+    horizontalHeader()->setFixedHeight(rowHeight);
+    Guarded([&] { model.SetRowHeight(Twips(rowHeight)); });
     connect(this, &QTableWidget::currentCellChanged, this, [this](int row, int col, int, int) {
         if (filling_ || row < 0) return;
         Guarded([&] { model_.UserMoveTo(row, col); });
@@ -53,15 +60,21 @@ GridView::GridView(DataGrid& model, QWidget* parent) : QTableWidget(parent), mod
     });
     connect(horizontalHeader(), &QHeaderView::sectionClicked, this,
             [this](int col) { Guarded([&] { model_.UserHeadClick(col); }); });
-    // The record selectors select rows, Ctrl adding to the rows selected.
-    connect(verticalHeader(), &QHeaderView::sectionClicked, this, [this](int row) {
-        const bool add = QApplication::keyboardModifiers().testFlag(Qt::ControlModifier);
-        Guarded([&] { model_.UserSelectRow(row, add); });
-    });
+    // The model places what lies over the grid (a browse button, a pick list) by its top row.
+    // The grid also scrolls while it shows the model's current row.
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, this,
+            [this](int top) { Guarded([&] { model_.SetTopRow(top); }); });
     // A click on the current cell of a column with a button presses the button.
     connect(this, &QTableWidget::cellClicked, this, [this](int row, int col) {
+        Guarded([&] { model_.RaiseClick(); });
         if (col < model_.ColumnCount() && model_.Columns(col).Button() && row == model_.Row())
             Guarded([&] { model_.UserButtonClick(); });
+    });
+    // The row headers are the record selectors: a press selects the row, with Ctrl one more.
+    connect(verticalHeader(), &QHeaderView::sectionClicked, this, [this](int row) {
+        const bool add = QApplication::keyboardModifiers() & Qt::ControlModifier;
+        Guarded([&] { model_.UserSelectRow(row, add); });
+        SyncCurrent();
     });
 }
 

@@ -1,7 +1,5 @@
 #include "qt/tab_view.h"
 
-#include <QDragEnterEvent>
-#include <QDropEvent>
 #include <QMouseEvent>
 #include <QTabBar>
 
@@ -31,7 +29,6 @@ class TabBinding : public ControlBinding {
 }  // namespace
 
 TabView::TabView(TabControl& model, QWidget* parent) : QTabWidget(parent), model_(model) {
-    setAcceptDrops(true);
     tabBar()->installEventFilter(this);
     SyncPages();
 }
@@ -95,27 +92,6 @@ bool TabView::eventFilter(QObject* watched, QEvent* event) {
     else
         Guarded([&] { model_.RaiseMouseUp(button, shift, x, y); });
     return onBar;
-}
-
-void TabView::dragEnterEvent(QDragEnterEvent* event) {
-    int effect = kDropEffectNone;
-    Guarded([&] { effect = model_.RaiseDragOver(DragDataOf(event->mimeData())); });
-    if (effect == kDropEffectNone) {
-        event->ignore();
-        return;
-    }
-    event->setDropAction(effect == kDropEffectMove ? Qt::MoveAction : Qt::CopyAction);
-    event->accept();
-}
-
-void TabView::dragMoveEvent(QDragMoveEvent* event) {
-    event->accept();
-}
-
-void TabView::dropEvent(QDropEvent* event) {
-    const DragData data = DragDataOf(event->mimeData());
-    event->acceptProposedAction();
-    Guarded([&] { model_.RaiseDragDrop(data); });
 }
 
 }  // namespace tarvex::qt

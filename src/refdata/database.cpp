@@ -63,6 +63,11 @@ void Database::Execute(const std::string& sql) {
     }
 }
 
+void Database::Execute(const std::string& sql, const std::vector<FieldValue>& parameters) {
+    if (!IsOpen()) Raise(kErrObjectClosed, "Object invalid or no longer set.");
+    connection_->Run(TranslateSql(sql), parameters);
+}
+
 void Database::CompactDatabase(const std::string& source, const std::string& destination) {
     detail::Connection connection(source);
     connection.Run("VACUUM INTO ?1", {FieldValue(destination)});

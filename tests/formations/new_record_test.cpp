@@ -37,54 +37,9 @@ TEST_F(FormationsTest, GenericGroupNamesStopAtATypedName) {
     EXPECT_TRUE(frm.btnPilotName.Enabled());
 }
 
-TEST_F(FormationsTest, PilotNamesComeFromTheAircraftOffered) {
-    AddGroups(1);
-    frm.optAllegiance(1).UserClick();  // Luftwaffe
-    frm.btnPilotName.UserClick();
-    EXPECT_EQ(dlg.Caption(), "Enter Pilot Name");
-    EXPECT_EQ(dlg.txtNewRecord.Text(), "Pilot_1");
-    // Only flyable Luftwaffe aircraft, by name.
-    ASSERT_GT(dlg.cmbPilotName.ListCount(), 0);
-    EXPECT_EQ(dlg.cmbPilotName.List(0), "Bf109E3");
-    const int row = dlg.cmbPilotName.FindRow("Ju88A1");
-    ASSERT_GE(row, 0);
-    dlg.cmbPilotName.UserChoose(row);
-    EXPECT_EQ(dlg.txtNewRecord.Text(), "Ju88A1_1");
-    EXPECT_EQ(frm.cmbMovingType.Text(), "Ju88A1");
-    dlg.btnAddRecord.UserClick();
-    EXPECT_EQ(frm.lstPilotName.List(0), "Ju88A1_1");
-    EXPECT_EQ(doc.PilotAC(0, 0), 63);
-    EXPECT_EQ(dlg.txtNewRecord.Text(), "Ju88A1_2");
-    EXPECT_TRUE(doc.PilotsAssigned);
-    dlg.btnCancel.UserClick();
-}
-
-TEST_F(FormationsTest, AddStopsAtTheLimitWithItsBox) {
-    const struct {
-        int pattern;
-        int pilots;
-        const char* text;
-    } cases[] = {
-        {5, 6, "Maximum Number of Allowed Pilots has been Reached for [Ketten] Pattern."},
-        {4, 9, "Maximum Number of Allowed Pilots has been Reached for [German Bomber V] Pattern."},
-    };
-    AddGroups(1);
-    for (const auto& c : cases) {
-        while (frm.lstPilotName.ListCount() > 0)
-            frm.btnDeletePilot.UserClick();
-        frm.cmbFormPattern.SetListIndex(c.pattern);
-        t.dialogs.ClearRecord();
-        frm.btnPilotName.UserClick();
-        for (int i = 0; i <= c.pilots; ++i)
-            dlg.btnAddRecord.UserClick();
-        EXPECT_EQ(frm.lstPilotName.ListCount(), c.pilots);
-        ASSERT_EQ(t.dialogs.messages.size(), 1u);
-        EXPECT_EQ(t.dialogs.messages[0].text, c.text);
-        EXPECT_EQ(t.dialogs.messages[0].title, "Maximum Reached");
-        EXPECT_FALSE(dlg.Loaded());
-    }
-
-    AddGroups(15);
+// The pilots' limit and its box are walked through in formations_to_the_limits.scn.
+TEST_F(FormationsTest, AddStopsAtSixteenGroupsWithItsBox) {
+    AddGroups(16);
     ASSERT_EQ(frm.lstGroupName.ListCount(), 16);
     t.dialogs.ClearRecord();
     frm.btnGroupName.UserClick();
