@@ -7,11 +7,13 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDragEnterEvent>
 #include <QFileInfo>
 #include <QImage>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QProcess>
 #include <QRadioButton>
 #include <QScrollArea>
@@ -20,6 +22,7 @@
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QTest>
+#include <QUrl>
 #include <filesystem>
 #include <functional>
 #include <stdexcept>
@@ -589,6 +592,26 @@ TEST_F(SkinTest, OffsetsWindowOpensOnTopBesideTheEditorAndItsCellsReachTheDataba
     rs.MoveFirst();
     EXPECT_DOUBLE_EQ(rs.Fields(0).Double(), 0.5);
     EXPECT_EQ(grid->item(0, 4)->text(), "1640.4");
+}
+
+// Files dragged over a control that listens for them reach its model, which takes them or
+// not.
+TEST_F(SkinTest, FilesDraggedOverAButtonReachItsModel) {
+    FormView* records = session->window().FormWindow("frmAircraft");
+    ASSERT_NE(records, nullptr);
+    QWidget* add = records->WidgetOf("cmdAdd");
+    ASSERT_TRUE(add && add->acceptDrops());
+    for (const bool files : {true, false}) {
+        QMimeData mime;
+        if (files)
+            mime.setUrls({QUrl::fromLocalFile("/tmp/Spitfire.air")});
+        else
+            mime.setText("Spitfire");
+        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction | Qt::MoveAction, &mime, Qt::LeftButton,
+                              {});
+        QApplication::sendEvent(add, &enter);
+        EXPECT_EQ(enter.isAccepted(), files);
+    }
 }
 
 TEST(SkinServices, FileFiltersTakeQtsForm) {
