@@ -109,7 +109,9 @@ CREATE TABLE GrndTypes (
 );
 
 CREATE INDEX GrndTypes_ID ON GrndTypes (ID);
-CREATE INDEX GrndTypes_UnitType ON GrndTypes (UnitType);
+-- By type and then layout, so that the first row of a type in layout order is found
+-- without sorting every unit of that type.
+CREATE INDEX GrndTypes_UnitType ON GrndTypes (UnitType, ID);
 
 CREATE TABLE frmNames (
     frmID INTEGER NOT NULL UNIQUE,

@@ -7,6 +7,7 @@
 #include "cli/commands.h"
 #include "cli/install_folders.h"
 #include "cli/mission_session.h"
+#include "cli/resave_preview.h"
 #include "common/text.h"
 
 namespace tarvex::cli {
@@ -65,10 +66,20 @@ int RunCheck(const CommonOptions& options, const std::vector<std::string>& files
             failure = kExitInvalid;
         }
         if (outcome.ok) {
+            const ResavePreview preview = PreviewResave(*editor, item.path);
+            if (!preview.ok) {
+                cout << item.shown << ": a save would fail\n" << Indented(preview.failure, "    ");
+                if (result == kExitOk) result = kExitSaveFailed;
+                continue;
+            }
             cout << item.shown << ": OK\n";
+            if (preview.reasons.empty()) continue;
+            cout << "    a first save changes " << preview.changedLines << " lines:\n";
+            for (const std::string& reason : preview.reasons)
+                cout << "    - " << reason << "\n";
             continue;
         }
-        cout << item.shown << ": " << FirstLine(outcome.report) << "\n"
+        cout << Headline(item.shown, item.path, outcome.report) << "\n"
              << Indented(outcome.report, "    ");
         // A file that didn't load weighs more than one that only failed the check.
         if (result == kExitOk || failure == kExitLoadFailed) result = failure;

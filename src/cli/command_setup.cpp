@@ -4,6 +4,8 @@
 
 #include "cli/install_folders.h"
 #include "cli/mission_session.h"
+#include "common/text.h"
+#include "refdata/reference_database.h"
 
 namespace tarvex::cli {
 
@@ -22,6 +24,11 @@ std::unique_ptr<HeadlessEditor> StartEditor(const CommonOptions& options, bool s
                                             ScratchDatabase& copy, std::ostream& err) {
     EditorFolders folders = ResolveFolders(options);
     std::string error;
+    // A file that isn't the reference database is never opened for writing.
+    if (!IsReferenceDatabaseFile(folders.database, error)) {
+        err << "tarvex-mis: " << error << "\n";
+        return nullptr;
+    }
     if (scratch) {
         if (!copy.CopyFrom(folders.database, error)) {
             err << "tarvex-mis: " << error << "\n";
@@ -48,11 +55,35 @@ std::unique_ptr<HeadlessEditor> StartWithMission(const CommonOptions& options, b
     }
     const Outcome load = OpenMission(*editor, inPath);
     if (!load.ok) {
-        err << in << ": " << load.report << "\n";
+        err << Headline(in, inPath, load.report) << "\n" << Indented(load.report, "    ");
         exitCode = kExitLoadFailed;
         return nullptr;
     }
     return editor;
+}
+
+std::string Headline(const std::string& shown, const std::string& path, const std::string& report) {
+    size_t start = 0;
+    while (start < report.size()) {
+        size_t end = report.find('\n', start);
+        if (end == std::string::npos) end = report.size();
+        std::string line = report.substr(start, end - start);
+        start = end + 1;
+        if (line.rfind(path, 0) != 0) continue;
+        // "<path> is a folder, not a mission file Error [75]"
+        const size_t error = line.rfind(" Error [");
+        if (error != std::string::npos) line.erase(error);
+        return shown + line.substr(path.size());
+    }
+    return shown + ": " + FirstLine(report);
+}
+
+bool IsMissionName(const std::string& name, std::ostream& err) {
+    if (EndsWithText(name, ".mis")) return true;
+    err << "tarvex-mis: " << name
+        << ": a mission file's name must end in .mis (its export takes the same name ending in "
+           "txt)\n";
+    return false;
 }
 
 std::string Indented(const std::string& text, const std::string& indent) {

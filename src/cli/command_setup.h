@@ -24,6 +24,16 @@ std::unique_ptr<HeadlessEditor> StartWithMission(const CommonOptions& options, b
                                                  ScratchDatabase& copy, const std::string& in,
                                                  std::ostream& err, int& exitCode);
 
+// The first line of what the tool says about a file that failed: where the report names the
+// file, its name and the cause in words ("a.mis is a folder, not a mission file"); else the
+// name and the report's first line.
+std::string Headline(const std::string& shown, const std::string& path, const std::string& report);
+
+// A mission is written only under a name ending in ".mis", so that its export (the name with
+// "txt" for the last three characters) is always another file. False after a message on
+// `err` for any other name.
+bool IsMissionName(const std::string& name, std::ostream& err);
+
 // The report as lines under a heading, indented.
 std::string Indented(const std::string& text, const std::string& indent);
 

@@ -9,11 +9,12 @@ namespace tarvex::cli {
 
 enum ExitCode : int {
     kExitOk = 0,
-    kExitLoadFailed = 1,  // a mission didn't load: the load report says why
-    kExitInvalid = 2,     // a mission the simulator couldn't fly: nothing was written
-    kExitSaveFailed = 3,  // the save or the export failed: the files on disk are as before
-    kExitUsage = 64,      // bad arguments
-    kExitNoDatabase = 66  // the reference database is missing or isn't one
+    kExitLoadFailed = 1,    // a mission didn't load: the load report says why
+    kExitInvalid = 2,       // a mission the simulator couldn't fly: nothing was written
+    kExitSaveFailed = 3,    // the save or the export failed: the files on disk are as before
+    kExitExportFailed = 4,  // the mission was written, but its export beside it failed
+    kExitUsage = 64,        // bad arguments
+    kExitNoDatabase = 66    // the reference database is missing or isn't one
 };
 
 // What every command may be told; empty paths take the editor's or the default installation's.
@@ -36,6 +37,11 @@ int RunCheck(const CommonOptions& options, const std::vector<std::string>& files
 // Writes the spreadsheet export beside IN, on a scratch copy of the database.
 int RunExport(const CommonOptions& options, const std::string& in, std::ostream& cout,
               std::ostream& cerr);
+
+// Prints a unified diff between IN and what a resave of it would write (nothing when a resave
+// changes nothing), on a scratch copy of the database.
+int RunDiff(const CommonOptions& options, const std::string& in, std::ostream& cout,
+            std::ostream& cerr);
 
 // What play is told besides the common options.
 struct PlayOptions {

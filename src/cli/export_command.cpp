@@ -9,6 +9,7 @@ namespace tarvex::cli {
 
 int RunExport(const CommonOptions& options, const std::string& in, std::ostream& cout,
               std::ostream& cerr) {
+    if (!IsMissionName(in, cerr)) return kExitUsage;
     const std::string inPath = AbsolutePath(in);
     ScratchDatabase copy;
     int exitCode = kExitOk;
@@ -16,7 +17,7 @@ int RunExport(const CommonOptions& options, const std::string& in, std::ostream&
     if (!editor) return exitCode;
     const Outcome exported = ExportLoadedMission(*editor);
     if (!exported.ok) {
-        cerr << in << ": export failed: " << exported.report << "\n";
+        cerr << ExportPathOf(in) << ": export failed: " << exported.report << "\n";
         return kExitSaveFailed;
     }
     cout << "Wrote " << ExportPathOf(inPath) << "\n";

@@ -46,9 +46,10 @@ int main(int argc, char** argv) {
 
     CLI::App* resave = app.add_subcommand(
         "resave",
-        "Open IN and save it as OUT, as File Open and File Save As do; the export "
-        "goes beside OUT. Exit 1: IN didn't load; 2: it failed validation, nothing "
-        "written; 3: the save failed.");
+        "Open IN and save it as OUT (a name ending in .mis), as File Open and File Save As "
+        "do; the export goes beside OUT. Exit 1: IN didn't load; 2: it failed validation, "
+        "nothing written; 3: the save failed, the files are as before; 4: OUT was written "
+        "but its export wasn't.");
     resave->add_option("IN", in, "Mission to open")->required();
     resave->add_option("OUT", out, "Mission file to write")->required();
     AddCommonOptions(resave, options);
@@ -56,7 +57,7 @@ int main(int argc, char** argv) {
     CLI::App* check = app.add_subcommand(
         "check",
         "Load and validate missions (a folder stands for its .mis files) on a copy of "
-        "the database. Exit 0 only when all pass.");
+        "the database, and say what a first save would change. Exit 0 only when all pass.");
     check->add_option("FILE", files, "Missions or folders")->required();
     AddCommonOptions(check, options);
 
@@ -66,6 +67,13 @@ int main(int argc, char** argv) {
         "a copy of the database.");
     exportCommand->add_option("IN", in, "Mission to export")->required();
     AddCommonOptions(exportCommand, options);
+
+    CLI::App* diff = app.add_subcommand(
+        "diff",
+        "Print a unified diff between IN and what a resave of it would write, on a "
+        "copy of the database.");
+    diff->add_option("IN", in, "Mission to compare")->required();
+    AddCommonOptions(diff, options);
 
     CLI::App* info = app.add_subcommand(
         "info",
@@ -108,6 +116,7 @@ int main(int argc, char** argv) {
         if (*resave) return tarvex::cli::RunResave(options, in, out, std::cout, std::cerr);
         if (*check) return tarvex::cli::RunCheck(options, files, std::cout, std::cerr);
         if (*exportCommand) return tarvex::cli::RunExport(options, in, std::cout, std::cerr);
+        if (*diff) return tarvex::cli::RunDiff(options, in, std::cout, std::cerr);
         if (*scan) return tarvex::cli::RunScan(options, json, std::cout, std::cerr);
         if (*playCommand) return tarvex::cli::RunPlay(options, play, std::cout, std::cerr);
         return tarvex::cli::RunInfo(options, in, json, std::cout, std::cerr);

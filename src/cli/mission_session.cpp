@@ -53,6 +53,8 @@ Outcome SaveMissionAs(HeadlessEditor& editor, const std::string& path, bool& val
     editor.dialogs().QueueSave(path);
     FileSaveAs(editor.ed());
     Outcome outcome = FromBoxes(editor, MsgIcon::Critical);
+    // The export is the last step, after the mission file is in place.
+    outcome.missionWritten = !outcome.ok && editor.ed().StepText == "Saving EXCEL Import File";
     // Validation passed once already and nothing changed since; a second refusal can't come,
     // but a dialog that wasn't asked would leave the file unwritten without a word.
     if (outcome.ok && !editor.dialogs().saveAnswers.empty()) {

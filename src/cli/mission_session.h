@@ -9,7 +9,8 @@ namespace tarvex::cli {
 
 struct Outcome {
     bool ok = true;
-    std::string report;  // the text of the box that ended the operation
+    std::string report;           // the text of the box that ended the operation
+    bool missionWritten = false;  // a save that failed wrote the mission, but not its export
 };
 
 // File Open of the file (an absolute path): a fresh document, then the load. Fails with the

@@ -9,6 +9,7 @@ namespace tarvex::cli {
 
 int RunResave(const CommonOptions& options, const std::string& in, const std::string& out,
               std::ostream& cout, std::ostream& cerr) {
+    if (!IsMissionName(out, cerr)) return kExitUsage;
     const std::string outPath = AbsolutePath(out);
     ScratchDatabase unused;
     int exitCode = kExitOk;
@@ -17,8 +18,17 @@ int RunResave(const CommonOptions& options, const std::string& in, const std::st
     bool validationFailed = false;
     const Outcome save = SaveMissionAs(*editor, outPath, validationFailed);
     if (!save.ok) {
-        cerr << in << ": " << save.report << (save.report.ends_with('\n') ? "" : "\n");
-        return validationFailed ? kExitInvalid : kExitSaveFailed;
+        if (validationFailed) {
+            cerr << in << ": " << save.report << (save.report.ends_with('\n') ? "" : "\n");
+            return kExitInvalid;
+        }
+        if (save.missionWritten) {
+            cerr << out << ": saved, but its export " << ExportPathOf(out) << " was not written\n"
+                 << Indented(save.report, "    ");
+            return kExitExportFailed;
+        }
+        cerr << Headline(out, outPath, save.report) << "\n" << Indented(save.report, "    ");
+        return kExitSaveFailed;
     }
     cout << "Saved " << outPath << " and " << ExportPathOf(outPath) << "\n";
     return kExitOk;

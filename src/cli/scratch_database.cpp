@@ -1,9 +1,15 @@
 #include "cli/scratch_database.h"
 
+#include <signal.h>
 #include <sqlite3.h>
 #include <unistd.h>
 
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
+#include <cstring>
 #include <filesystem>
+#include <iterator>
 #include <system_error>
 #include <vector>
 
@@ -15,11 +21,19 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string MakeTempFolder() {
+constexpr const char* kFolderPrefix = "tarvex-mis-";
+// The files the engine may keep beside a database.
+constexpr const char* kEngineSuffixes[] = {"", "-wal", "-shm", "-journal"};
+
+fs::path TempBase() {
     std::error_code error;
     fs::path base = fs::temp_directory_path(error);
-    if (error) base = "/tmp";
-    std::string pattern = (base / "tarvex-mis-XXXXXX").string();
+    return error ? fs::path("/tmp") : base;
+}
+
+std::string MakeTempFolder() {
+    std::string pattern =
+        (TempBase() / (kFolderPrefix + std::to_string(::getpid()) + "-XXXXXX")).string();
     std::vector<char> buffer(pattern.begin(), pattern.end());
     buffer.push_back('\0');
     if (::mkdtemp(buffer.data()) == nullptr) return {};
@@ -30,10 +44,71 @@ std::string EngineMessage(sqlite3* db, int code) {
     return db ? sqlite3_errmsg(db) : sqlite3_errstr(code);
 }
 
+// What a signal handler may touch: fixed buffers, filled before the handlers are installed.
+// One scratch database per process.
+constexpr std::size_t kMaxPath = 4096;
+char gFolder[kMaxPath];
+char gFiles[std::size(kEngineSuffixes)][kMaxPath];
+volatile std::sig_atomic_t gArmed = 0;
+
+constexpr int kCleanedSignals[] = {SIGINT, SIGTERM, SIGHUP, SIGQUIT};
+
+void RemoveOnSignal(int signal) {
+    if (gArmed) {
+        for (const char* file : gFiles)
+            ::unlink(file);
+        ::rmdir(gFolder);
+    }
+    // Then end as the signal would have ended the process.
+    std::signal(signal, SIG_DFL);
+    std::raise(signal);
+}
+
+bool Fits(const std::string& text) {
+    return text.size() < kMaxPath;
+}
+
+void Arm(const std::string& folder, const std::string& path) {
+    if (!Fits(folder) || !Fits(path + "-journal")) return;
+    gArmed = 0;
+    std::strcpy(gFolder, folder.c_str());
+    for (std::size_t i = 0; i < std::size(kEngineSuffixes); ++i)
+        std::strcpy(gFiles[i], (path + kEngineSuffixes[i]).c_str());
+    gArmed = 1;
+    for (const int signal : kCleanedSignals) {
+        struct sigaction action {};
+        action.sa_handler = RemoveOnSignal;
+        sigemptyset(&action.sa_mask);
+        ::sigaction(signal, &action, nullptr);
+    }
+}
+
+void Disarm() {
+    gArmed = 0;
+}
+
 }  // namespace
+
+void RemoveAbandonedScratchFolders() {
+    std::error_code error;
+    const std::string prefix = kFolderPrefix;
+    for (fs::directory_iterator it(TempBase(), error), end; !error && it != end;
+         it.increment(error)) {
+        const std::string name = it->path().filename().string();
+        if (name.compare(0, prefix.size(), prefix) != 0) continue;
+        // "tarvex-mis-<process>-XXXXXX": a folder without a process number isn't ours to judge.
+        char* rest = nullptr;
+        const long pid = std::strtol(name.c_str() + prefix.size(), &rest, 10);
+        if (pid <= 0 || rest == nullptr || *rest != '-' || pid == ::getpid()) continue;
+        if (::kill(static_cast<pid_t>(pid), 0) == 0 || errno != ESRCH) continue;
+        std::error_code ignored;
+        if (it->is_directory(ignored)) fs::remove_all(it->path(), ignored);
+    }
+}
 
 ScratchDatabase::~ScratchDatabase() {
     if (folder_.empty()) return;
+    Disarm();
     std::error_code ignored;
     fs::remove_all(folder_, ignored);
 }
@@ -44,12 +119,15 @@ bool ScratchDatabase::CopyFrom(const std::string& source, std::string& error) {
         error = "database not found: " + source;
         return false;
     }
+    RemoveAbandonedScratchFolders();
     folder_ = MakeTempFolder();
     if (folder_.empty()) {
-        error = "cannot make a temporary folder for a copy of the database";
+        error = "cannot make a temporary folder for a copy of the database in " +
+                TempBase().string() + ": " + std::strerror(errno);
         return false;
     }
     path_ = (fs::path(folder_) / kDatabaseFileName).string();
+    Arm(folder_, path_);
 
     sqlite3* from = nullptr;
     sqlite3* to = nullptr;

@@ -2,8 +2,10 @@
 
 #include <atomic>
 #include <cerrno>
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
 #include <filesystem>
-#include <random>
 #include <system_error>
 
 #include "common/error.h"
@@ -23,10 +25,14 @@ fs::path PathOf(const std::string& utf8) {
     return fs::path(std::u8string(utf8.begin(), utf8.end()));
 }
 
-[[noreturn]] void RaiseFileError(int systemError) {
+// A failure of the system, with the file and the cause in words.
+[[noreturn]] void RaiseFileError(const std::string& file, int systemError) {
+    if (systemError == ENOSPC || systemError == EDQUOT)
+        Raise(kErrDiskFull, file + ": the disk is full");
     if (systemError == EACCES || systemError == EPERM || systemError == EROFS)
-        Raise(kErrPermissionDenied);
-    Raise(kErrPathAccess);
+        Raise(kErrPermissionDenied, file + ": permission denied");
+    Raise(kErrPathAccess,
+          file + ": " + std::error_code(systemError, std::generic_category()).message());
 }
 
 // "wx": create, and fail rather than open a file that is already there.
@@ -38,11 +44,55 @@ std::FILE* CreateExclusive(const fs::path& path) {
 #endif
 }
 
-// A suffix that no other writer, in this process or another one, picks at the same time.
+long ProcessId() {
+#ifdef _WIN32
+    return static_cast<long>(_getpid());
+#else
+    return static_cast<long>(::getpid());
+#endif
+}
+
+// Temporary files are named after their target and the process that writes them,
+// "<target>.~<process>-<n>.tmp", so that a later save of the same file can tell which of them
+// a killed writer left behind.
+constexpr const char* kTempMark = ".~";
+
 std::string UniqueSuffix() {
-    static const unsigned seed = std::random_device{}();
     static std::atomic<unsigned> counter{0};
-    return "." + IntText(seed % 1000000) + "-" + IntText(counter++) + ".tmp";
+    return kTempMark + IntText(ProcessId()) + "-" + IntText(counter++) + ".tmp";
+}
+
+bool ProcessIsGone(long pid) {
+#ifdef _WIN32
+    (void)pid;
+    return false;
+#else
+    return ::kill(static_cast<pid_t>(pid), 0) != 0 && errno == ESRCH;
+#endif
+}
+
+// Removes the temporary files of earlier writes of `target` whose writer is no longer
+// running, or that are older than any write could take.
+void RemoveStaleTemporaries(const fs::path& target) {
+    const std::string prefix = target.filename().string() + kTempMark;
+    std::error_code ec;
+    const fs::path folder = target.has_parent_path() ? target.parent_path() : fs::path(".");
+    const auto now = fs::file_time_type::clock::now();
+    for (fs::directory_iterator it(folder, ec), end; !ec && it != end; it.increment(ec)) {
+        const std::string name = it->path().filename().string();
+        if (name.size() <= prefix.size() || name.compare(0, prefix.size(), prefix) != 0 ||
+            !name.ends_with(".tmp"))
+            continue;
+        const long pid = std::strtol(name.c_str() + prefix.size(), nullptr, 10);
+        std::error_code timeError;
+        const auto written = fs::last_write_time(it->path(), timeError);
+        const bool old = !timeError && now - written > std::chrono::hours(1);
+        if (pid == ProcessId() && !old) continue;
+        if (old || pid <= 0 || ProcessIsGone(pid)) {
+            std::error_code ignored;
+            fs::remove(it->path(), ignored);
+        }
+    }
 }
 
 }  // namespace
@@ -54,17 +104,19 @@ AtomicFileWriter::AtomicFileWriter(std::string target) : target_(std::move(targe
     if (fs::exists(status)) {
         // Writing over a folder, or over a file marked read-only, is refused as the desktop
         // refuses to open such a file for output.
-        if (!fs::is_regular_file(status)) Raise(kErrPathAccess);
+        if (fs::is_directory(status)) Raise(kErrPathAccess, target_ + " is a folder");
+        if (!fs::is_regular_file(status)) Raise(kErrPathAccess, target_ + " is not a file");
         if ((status.permissions() & fs::perms::owner_write) == fs::perms::none)
-            Raise(kErrPathAccess);
+            Raise(kErrPathAccess, target_ + " is read-only");
     }
+    RemoveStaleTemporaries(PathOf(target_));
     for (int attempt = 0; attempt < 100; ++attempt) {
         temp_ = target_ + UniqueSuffix();
         file_ = CreateExclusive(PathOf(temp_));
         if (file_ != nullptr) return;
-        if (errno != EEXIST) RaiseFileError(errno);
+        if (errno != EEXIST) RaiseFileError(target_, errno);
     }
-    Raise(kErrPathAccess);
+    Raise(kErrPathAccess, target_ + ": no temporary file could be made beside it");
 }
 
 AtomicFileWriter::~AtomicFileWriter() {
@@ -74,7 +126,8 @@ AtomicFileWriter::~AtomicFileWriter() {
 void AtomicFileWriter::Write(std::string_view bytes) {
     if (file_ == nullptr) Raise(kErrPathAccess);
     if (bytes.empty()) return;
-    if (std::fwrite(bytes.data(), 1, bytes.size(), file_) != bytes.size()) RaiseFileError(errno);
+    if (std::fwrite(bytes.data(), 1, bytes.size(), file_) != bytes.size())
+        RaiseFileError(target_, errno);
 }
 
 void AtomicFileWriter::Commit() {
@@ -98,7 +151,7 @@ void AtomicFileWriter::Commit() {
     }
     if (!ok) {
         Discard();
-        RaiseFileError(failure);
+        RaiseFileError(target_, failure);
     }
     committed_ = true;
 }

@@ -1,6 +1,10 @@
 #include "common/encoding.h"
 
+#include <cerrno>
 #include <cstdint>
+#include <utility>
+
+#include <unistd.h>
 
 namespace tarvex {
 
@@ -22,6 +26,10 @@ char ToByte(char32_t codePoint) {
         if (kHighTable[i] == codePoint) return static_cast<char>(0x80 + i);
     }
     return '?';
+}
+
+void AppendCp1252Byte(std::string& out, uint8_t b) {
+    AppendUtf8(out, (b >= 0x80 && b < 0xA0) ? kHighTable[b - 0x80] : b);
 }
 
 }  // namespace
@@ -85,6 +93,12 @@ std::string Utf8ToCp1252(std::string_view text) {
     out.reserve(text.size());
     size_t i = 0;
     while (i < text.size()) {
+        // Runs of plain ASCII go across in one piece.
+        const size_t run = i;
+        while (i < text.size() && static_cast<uint8_t>(text[i]) < 0x80)
+            ++i;
+        out.append(text.data() + run, i - run);
+        if (i == text.size()) break;
         char32_t cp = 0;
         out += NextCodePoint(text, i, cp) ? ToByte(cp) : '?';
     }
@@ -94,37 +108,123 @@ std::string Utf8ToCp1252(std::string_view text) {
 std::string Cp1252ToUtf8(std::string_view bytes) {
     std::string out;
     out.reserve(bytes.size());
-    // Runs of ASCII, which is nearly all of a mission, go across as they stand.
     size_t i = 0;
     while (i < bytes.size()) {
-        size_t ascii = i;
-        while (ascii < bytes.size() && static_cast<uint8_t>(bytes[ascii]) < 0x80)
-            ++ascii;
-        out.append(bytes.data() + i, ascii - i);
-        if (ascii == bytes.size()) break;
-        const auto b = static_cast<uint8_t>(bytes[ascii]);
-        AppendUtf8(out, b < 0xA0 ? kHighTable[b - 0x80] : b);
-        i = ascii + 1;
+        // Runs of plain ASCII go across in one piece.
+        const size_t run = i;
+        while (i < bytes.size() && static_cast<uint8_t>(bytes[i]) < 0x80)
+            ++i;
+        out.append(bytes.data() + run, i - run);
+        if (i < bytes.size()) AppendCp1252Byte(out, static_cast<uint8_t>(bytes[i++]));
     }
     return out;
 }
 
+size_t LineEndAt(std::string_view text, size_t from) {
+    while (from < text.size() && text[from] != '\r' && text[from] != '\n')
+        ++from;
+    return from;
+}
+
+size_t NextLineAt(std::string_view text, size_t end) {
+    if (end >= text.size()) return text.size();
+    return end + ((text[end] == '\r' && end + 1 < text.size() && text[end + 1] == '\n') ? 2 : 1);
+}
+
 std::vector<std::string> SplitLines(std::string_view text) {
     std::vector<std::string> lines;
-    size_t start = 0;
-    size_t i = 0;
-    while (i < text.size()) {
-        const char c = text[i];
-        if (c == '\r' || c == '\n') {
-            lines.emplace_back(text.substr(start, i - start));
-            i += (c == '\r' && i + 1 < text.size() && text[i + 1] == '\n') ? 2 : 1;
-            start = i;
-        } else {
-            ++i;
-        }
+    for (size_t start = 0; start < text.size();) {
+        const size_t end = LineEndAt(text, start);
+        lines.emplace_back(text.substr(start, end - start));
+        start = NextLineAt(text, end);
     }
-    if (start < text.size()) lines.emplace_back(text.substr(start));
     return lines;
+}
+
+// ---- LineReader ------------------------------------------------------------------------------
+
+namespace {
+constexpr size_t kPieceSize = 64 * 1024;
+}  // namespace
+
+LineReader::LineReader(int fd) : fd_(fd) {}
+
+LineReader::~LineReader() {
+    Release();
+}
+
+LineReader::LineReader(LineReader&& other) noexcept {
+    *this = std::move(other);
+}
+
+LineReader& LineReader::operator=(LineReader&& other) noexcept {
+    if (this != &other) {
+        Release();
+        fd_ = std::exchange(other.fd_, -1);
+        buffer_ = std::move(other.buffer_);
+        pos_ = std::exchange(other.pos_, 0);
+        size_ = std::exchange(other.size_, 0);
+        skipLineFeed_ = std::exchange(other.skipLineFeed_, false);
+        failed_ = std::exchange(other.failed_, false);
+    }
+    return *this;
+}
+
+void LineReader::Release() noexcept {
+    if (fd_ >= 0) ::close(fd_);
+    fd_ = -1;
+}
+
+bool LineReader::Fill() {
+    if (fd_ < 0) return false;
+    buffer_.resize(kPieceSize);
+    for (;;) {
+        const ssize_t got = ::read(fd_, buffer_.data(), buffer_.size());
+        if (got > 0) {
+            pos_ = 0;
+            size_ = static_cast<size_t>(got);
+            return true;
+        }
+        if (got < 0 && errno == EINTR) continue;
+        failed_ = got < 0;
+        Release();
+        return false;
+    }
+}
+
+LineReader::Status LineReader::Next(std::string& line, size_t maxBytes) {
+    line.clear();
+    bool any = false;  // a character, or a line end, of this line was read
+    for (;;) {
+        if (pos_ == size_ && !Fill()) {
+            if (failed_) return Status::ReadError;
+            return any ? Status::Line : Status::End;
+        }
+        if (skipLineFeed_) {
+            skipLineFeed_ = false;
+            if (buffer_[pos_] == '\n') {
+                ++pos_;
+                continue;
+            }
+        }
+        const char* const piece = buffer_.data();
+        size_t i = pos_;
+        while (i < size_ && static_cast<uint8_t>(piece[i]) < 0x80 && piece[i] != '\r' &&
+               piece[i] != '\n')
+            ++i;
+        if (i > pos_) any = true;
+        line.append(piece + pos_, i - pos_);
+        pos_ = i;
+        if (line.size() > maxBytes) return Status::TooLong;
+        if (i == size_) continue;
+        const auto b = static_cast<uint8_t>(piece[pos_++]);
+        if (b == '\r' || b == '\n') {
+            skipLineFeed_ = b == '\r';
+            return Status::Line;
+        }
+        any = true;
+        AppendCp1252Byte(line, b);
+    }
 }
 
 }  // namespace tarvex

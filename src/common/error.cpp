@@ -19,6 +19,8 @@ std::string StandardDescription(int number) {
             return "Out of stack space";
         case kErrFileNotFound:
             return "File not found";
+        case kErrDiskFull:
+            return "Disk full";
         case kErrPermissionDenied:
             return "Permission denied";
         case kErrPathAccess:

@@ -14,6 +14,7 @@ enum ErrorNumber : int {
     kErrTypeMismatch = 13,
     kErrOutOfStack = 28,
     kErrFileNotFound = 53,
+    kErrDiskFull = 61,
     kErrPermissionDenied = 70,
     kErrPathAccess = 75,
     kErrInvalidProperty = 380,
@@ -23,12 +24,12 @@ enum ErrorNumber : int {
 };
 
 class AppError : public std::runtime_error {
-public:
+  public:
     AppError(int number, std::string description);
     int Number() const { return number_; }
     const std::string& Description() const { return description_; }
 
-private:
+  private:
     int number_;
     std::string description_;
 };

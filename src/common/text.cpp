@@ -28,7 +28,11 @@ size_t InStr(std::string_view text, std::string_view what, size_t start) {
     if (start > text.size() + 1) return 0;
     if (what.empty()) return start;
     if (what.size() > text.size()) return 0;
+    // Only where the first character matches, in either case, is the rest compared.
+    const char lower = Lower(what[0]);
+    const char upper = Upper(what[0]);
     for (size_t at = start - 1; at + what.size() <= text.size(); ++at) {
+        if (text[at] != lower && text[at] != upper) continue;
         if (MatchesAt(text, at, what)) return at + 1;
     }
     return 0;

@@ -31,8 +31,8 @@ void WriteFormationSections(Editor& ed, FileText& out) {
         // One station of the pattern per pilot, as far as the pattern has stations.
         const std::int32_t pattern = frm.cmbFormPattern.ItemData(doc.GrpPattern(g));
         ed.StepDetail = ": Searching MDB.frmPatterns Table for Formation ID " + IntText(pattern);
-        SharedQuery q(
-            ed, "SELECT frmID, frmX,frmY,frmZ FROM frmPatterns Where frmID=" + IntText(pattern));
+        SharedLookup q(
+            ed.db, "SELECT frmID, frmX,frmY,frmZ FROM frmPatterns Where frmID=" + IntText(pattern));
         q.rs.MoveFirst();
         for (int i = 0; !q.rs.Eof() && i <= Mission::kPilotUpper && !doc.PilotName(g, i).empty();
              ++i) {

@@ -5,13 +5,26 @@
 // placed in the mission, and the pending record either goes again or stays as a new layout.
 #include <cstdint>
 #include <string>
+#include <vector>
+
+#include "document/mission_loader_state.h"
 
 namespace tarvex {
 
 class Editor;
+class Transaction;
 
 // Adds the empty layout "Unnamed Layout<n> in file [<mission>]" to GrndNames; the new id.
 std::int16_t NewUnnamedLayout(Editor& ed);
+
+// Removes the pending record, with any units filed under it, when no layout closed it: a
+// mission without ground units, a last layout never closed, a load that failed.
+void DropPendingLayout(Editor& ed);
+
+// Ends the writes of a load, whether it succeeded or failed: a load that kept no layout
+// of its own is undone whole, so that the database is as it was; otherwise the pending
+// record goes and the rest is committed. Never raises.
+void EndLoadWrites(Editor& ed, Transaction& transaction) noexcept;
 
 // Closes the layout that was read: finds its record, places it in the mission at the origin
 // worked back from the first unit, and winds the layout state up. unitSum is 0 on return.
@@ -28,9 +41,18 @@ void ReadGroundUnitType(Editor& ed, std::int32_t type);
 void ReadGroundUnitLat(Editor& ed, const std::string& text);
 void ReadGroundUnitLon(Editor& ed, const std::string& text);
 
-// The damage line closes a ground unit: its offset from the layout's first unit goes into
-// GrndTypes under the pending record.
+// The damage line closes a ground unit: it is filed under the pending record, and goes into
+// GrndTypes with its offset from the layout's first unit when that record becomes a layout.
 void StoreGroundUnit(Editor& ed, std::int32_t type, std::uint8_t points, const std::string& lat,
                      const std::string& lon);
+
+// Remembers that the runway of `airfield`, `miles` away, took layout row `row`.
+void NoteLayoutTakenByAirfield(Editor& ed, int row, const std::string& airfield, float miles);
+
+// The notes of a load in one line for the status strip; empty when there are none.
+std::string LayoutNotesText(const std::vector<LayoutLoadNote>& notes);
+
+// The distance of a note in kilometres, as the notes print it.
+double NoteKilometres(const LayoutLoadNote& note);
 
 }  // namespace tarvex

@@ -7,27 +7,14 @@
 #include "document/ground_reconstruction.h"
 #include "ground/layout_markers.h"
 #include "refdata/reference_lookups.h"
+#include "refdata/shared_lookup.h"
+#include "refdata/sql_translation.h"
 #include "shell/editor.h"
 #include "shell/forms/frm_mission.h"
 
 namespace tarvex {
 
 namespace {
-
-// A one-row lookup on theRS: opened, on its first row, and closed again whatever happens.
-class RowLookup {
-  public:
-    RowLookup(Editor& ed, const std::string& sql) : rs_(ed.db.theRS) {
-        rs_ = ed.db.theDB.OpenRecordset(sql, kSnapshot);
-    }
-    ~RowLookup() { rs_.Close(); }
-    RowLookup(const RowLookup&) = delete;
-    RowLookup& operator=(const RowLookup&) = delete;
-    Recordset* operator->() { return &rs_; }
-
-  private:
-    Recordset& rs_;
-};
 
 // Runs f(line, value) for each line of a section with a value; f answers false to end the
 // section at once. A section ends at a short line, [strings] only at the end of the file.
@@ -44,8 +31,8 @@ void ForEachSectionLine(MisLines& lines, std::string& line, bool toEndOfFile, F&
 
 // The airfield of a runway id: its row in the airfield combos and its two-decimal position.
 void LookupRunway(Editor& ed, std::int32_t rwyId, int& row, std::string& lat, std::string& lon) {
-    RowLookup rs(ed,
-                 "SELECT Recnum,RwyID,RwyLat,RwyLon FROM Airfields Where RwyID=" + IntText(rwyId));
+    SharedLookup rs(
+        ed.db, "SELECT Recnum,RwyID,RwyLat,RwyLon FROM Airfields Where RwyID=" + IntText(rwyId));
     rs->MoveFirst();
     row = rs->Fields(0).Integer() - 1;
     double latDeg = rs->Fields(2).Double();
@@ -108,6 +95,7 @@ void TakeLayoutsNearRunway(Editor& ed, std::int32_t rwyId, float rwyLat, float r
         std::string lat;
         std::string lon;
         LookupRunway(ed, rwyId, row, lat, lon);
+        NoteLayoutTakenByAirfield(ed, k, frm.cmbGrndAirfield.List(row), dist);
         doc.GULat(k) = NormalizeCoordText(lat, "00.0000");
         doc.GULon(k) = NormalizeCoordText(lon, "00.0000");
         const std::string old = frm.lstGUAdded.List(k);
@@ -127,15 +115,28 @@ void TakeLayoutsNearRunway(Editor& ed, std::int32_t rwyId, float rwyLat, float r
 
 void ReadSummarySection(Editor& ed, MisLines& lines, std::string& line) {
     auto& frm = ed.FrmMission;
+    static const MisKeys kKeys{"Time",       "map=", "player_aircraft", "cloud",
+                               "visibility", "wind", "required_success"};
+    enum : std::uint32_t {
+        kTime = 1,
+        kMap = 2,
+        kPlayer = 4,
+        kCloud = 8,
+        kVisibility = 16,
+        kWind = 32,
+        kRequired = 64
+    };
     ForEachSectionLine(lines, line, false, [&](const std::string& l, const std::string& v) {
-        if (MisHasKey(l, "Time")) {
+        const std::uint32_t keys = kKeys.In(l);
+        if (keys & kTime) {
             frm.txtTime.SetText(v);
-        } else if (MisHasKey(l, "map=")) {
+        } else if (keys & kMap) {
             ed.StepDetail = ": Accessing MDB.Maps Table";
             int recnum = 0;
             std::string name;
             {
-                RowLookup rs(ed, "SELECT Recnum,Name FROM Maps Where Name=\"" + v + "\"");
+                SharedLookup rs(ed.db, "SELECT Recnum,Name FROM Maps Where Name=\"" +
+                                           QuotesDoubled(v, '"') + "\"");
                 rs->MoveFirst();
                 recnum = rs->Fields(0).Integer();
                 name = rs->Fields(1).Text();
@@ -143,17 +144,17 @@ void ReadSummarySection(Editor& ed, MisLines& lines, std::string& line) {
             frm.lblMap.SetCaption(name);
             frm.cmbSelectMap.SetListIndex(recnum - 1);
             ed.StepDetail.clear();
-        } else if (MisHasKey(l, "player_aircraft")) {
+        } else if (keys & kPlayer) {
             ed.StepDetail = ": Setting Combobox to Player Aircraft";
             const int row = FindAircraftRow(ed, ValLng(v));
             if (row >= 0) frm.lblAC.SetCaption(frm.cmbMovingType.List(row));
-        } else if (MisHasKey(l, "cloud")) {
+        } else if (keys & kCloud) {
             frm.cmbClouds.SetListIndex(ReadClampedByte(v, 0, 3));
-        } else if (MisHasKey(l, "visibility")) {
+        } else if (keys & kVisibility) {
             frm.cmbVisibility.SetListIndex(ReadClampedByte(v, 0, 4));
-        } else if (MisHasKey(l, "wind")) {
+        } else if (keys & kWind) {
             frm.cmbWinds.SetListIndex(ReadClampedByte(v, 0, 3));
-        } else if (MisHasKey(l, "required_success")) {
+        } else if (keys & kRequired) {
             frm.txtPctReqd.SetText(v);
         }
         return true;
@@ -175,23 +176,39 @@ void ReadUnitSection(Editor& ed, MisLines& lines, std::string& line, std::int16_
     std::string lat;
     std::string lon;
 
+    static const MisKeys kKeys{
+        "id",    " Ground Layout", "type_id", "position_lat", "position_lon", "is_player_aircraft",
+        "skill", "level",          "points",  "damage"};
+    enum : std::uint32_t {
+        kId = 1,
+        kLayout = 2,
+        kTypeId = 4,
+        kLat = 8,
+        kLon = 16,
+        kPlayer = 32,
+        kSkill = 64,
+        kLevel = 128,
+        kPoints = 256,
+        kDamage = 512
+    };
     ForEachSectionLine(lines, line, false, [&](const std::string& l, const std::string& v) {
         const int row = st.FileUnitCount;
-        if (MisHasGuardedId(l)) {
+        const std::uint32_t keys = kKeys.In(l);
+        if ((keys & kId) && MisIdGuard(l)) {
             sectionId = ValLng(v);
             if (sectionId < 2000) {
                 st.FileUnitID(row) = CInt(sectionId);
             } else {
                 ReadGroundUnitId(ed, CInt(sectionId), unitId);
             }
-        } else if (MisHasKey(l, " Ground Layout")) {
+        } else if (keys & kLayout) {
             ReadGroundLayoutComment(ed, v);
-        } else if (MisHasKey(l, "type_id")) {
+        } else if (keys & kTypeId) {
             const std::int32_t t = ValLng(v);
             if (t < 4000) {
                 ed.StepDetail = IntText(st.FileUnitID(row)) +
                                 ": Searching MDB.Aircraft Table for Aircraft ID " + IntText(t);
-                RowLookup rs(ed, "SELECT AcID FROM Aircraft Where ACID=" + IntText(t));
+                SharedLookup rs(ed.db, "SELECT AcID FROM Aircraft Where ACID=" + IntText(t));
                 rs->MoveLast();
                 rs->MoveFirst();
                 st.FileUnitType(row) = rs->Fields(0).Integer();
@@ -201,25 +218,25 @@ void ReadUnitSection(Editor& ed, MisLines& lines, std::string& line, std::int16_
                 type = t;
                 ReadGroundUnitType(ed, t);
             }
-        } else if (MisHasKey(l, "position_lat")) {
+        } else if (keys & kLat) {
             lat = v;
             ReadGroundUnitLat(ed, v);
-        } else if (MisHasKey(l, "position_lon")) {
+        } else if (keys & kLon) {
             lon = v;
             ReadGroundUnitLon(ed, v);
-        } else if (MisHasKey(l, "is_player_aircraft")) {
+        } else if (keys & kPlayer) {
             st.PlayerUnit = CInt(n);
             doc.PlayerPilot = CInt(n);
             doc.PlayerAssigned = true;
-        } else if (MisHasKey(l, "skill")) {
+        } else if (keys & kSkill) {
             st.FileUnitSkill(row) = ReadClampedByte(v, 0, 255);
-        } else if (MisHasKey(l, "level")) {
+        } else if (keys & kLevel) {
             st.FileUnitLevel(row) = ReadClampedByte(v, 0, 255);
-        } else if (MisHasKey(l, "points")) {
+        } else if (keys & kPoints) {
             points = ReadClampedByte(v, 0, 255);
             st.FileUnitPoints(row) = points;
             if (points == 1 && type >= 4000) st.LayoutHasPoints = true;
-        } else if (MisHasKey(l, "damage")) {
+        } else if (keys & kDamage) {
             st.FileUnitDamage(row) = ReadClampedByte(v, 0, 255);
             const std::int32_t id = sectionId >= 0 ? sectionId : st.FileUnitID(row);
             if (id > 0 && id < 2000) {
@@ -237,10 +254,13 @@ void ReadWaypointPathSection(Editor& ed, MisLines& lines, std::string& line) {
     Mission& doc = ed.doc;
     const int path = MisSectionNumber(line);
     int point = 1;
+    static const MisKeys kKeys{"Id", "waypoint."};
+    enum : std::uint32_t { kId = 1, kWaypoint = 2 };
     ForEachSectionLine(lines, line, false, [&](const std::string& l, const std::string& v) {
-        if (MisHasKey(l, "Id")) {
+        const std::uint32_t keys = kKeys.In(l);
+        if (keys & kId) {
             ed.StepDetail = v;
-        } else if (MisHasKey(l, "waypoint.")) {
+        } else if (keys & kWaypoint) {
             ReadWaypoint(ed, path, point, v);
             doc.PathPointCount(path) = CByte(point + 1);
             ++point;
@@ -294,19 +314,44 @@ void ReadFormationSection(Editor& ed, MisLines& lines, std::string& line) {
         ForEachFurtherPath(doc.GrpPaths(group), setPath);
     };
 
+    static const MisKeys kKeys{";Name",
+                               ";Formation Pattern",
+                               "id",
+                               "waypoint_path_id",
+                               "suspended",
+                               "directive",
+                               "takeoff_runway_id",
+                               "landing_runway_id",
+                               "takeoff_land_flag",
+                               "players_formation",
+                               "unit_id_position"};
+    enum : std::uint32_t {
+        kName = 1,
+        kPattern = 2,
+        kId = 4,
+        kPaths = 8,
+        kSuspended = 16,
+        kDirective = 32,
+        kTakeoff = 64,
+        kLanding = 128,
+        kFlag = 256,
+        kPlayers = 512,
+        kPosition = 1024
+    };
     ForEachSectionLine(lines, line, false, [&](const std::string& l, const std::string& v) {
-        if (MisHasKey(l, ";Name")) {
+        const std::uint32_t keys = kKeys.In(l);
+        if (keys & kName) {
             name = v;
-        } else if (MisHasKey(l, ";Formation Pattern")) {
+        } else if (keys & kPattern) {
             const int lastRow = frm.cmbFormPattern.ListCount() - 1;
             doc.GrpPattern(group) = ReadClampedByte(v, 0, lastRow > 0 ? lastRow : 255);
-        } else if (MisHasGuardedId(l)) {
+        } else if ((keys & kId) && MisIdGuard(l)) {
             const std::int32_t id = ValLng(v);
             formationId = IntText(id);
             // The row goes in the order of the file, while the arrays go by the number.
             if (id < 6999)
                 frm.lstGroupName.AddItem(name.empty() ? "Group" + IntText(group + 1) : name);
-        } else if (MisHasKey(l, "waypoint_path_id")) {
+        } else if (keys & kPaths) {
             // The ground formation has no paths, and its unit lines are read past.
             if (Val(v) == -1) return false;
             doc.GrpPaths(group) = v;
@@ -318,19 +363,19 @@ void ReadFormationSection(Editor& ed, MisLines& lines, std::string& line) {
                             "] was found.\nThis data must not contain any spaces";
             firstPath = CInt(Val(Left(v, 4))) - 5000;
             doc.PathGroup(firstPath) = CByte(group);
-        } else if (MisHasKey(l, "suspended")) {
+        } else if (keys & kSuspended) {
             doc.GrpSuspended(group) = ReadClampedByte(v, 0, 1);
-        } else if (MisHasKey(l, "directive")) {
+        } else if (keys & kDirective) {
             doc.GrpDirective(group) = ReadClampedByte(v, 0, 4);
-        } else if (MisHasKey(l, "takeoff_runway_id")) {
+        } else if (keys & kTakeoff) {
             applyRunway(true, v);
-        } else if (MisHasKey(l, "landing_runway_id")) {
+        } else if (keys & kLanding) {
             applyRunway(false, v);
-        } else if (MisHasKey(l, "takeoff_land_flag")) {
+        } else if (keys & kFlag) {
             doc.GrpTakeoffFlag(group) = ReadClampedByte(v, 0, 3);
-        } else if (MisHasKey(l, "players_formation")) {
+        } else if (keys & kPlayers) {
             doc.PlayerGroup = CInt(group);
-        } else if (MisHasKey(l, "unit_id_position")) {
+        } else if (keys & kPosition) {
             const std::int32_t id = ValLng(Left(v, 4));
             for (int r = 0; r < st.FileUnitCount; ++r) {
                 if (st.FileUnitID(r) != id) continue;
@@ -357,15 +402,18 @@ void ReadFormationSection(Editor& ed, MisLines& lines, std::string& line) {
 void ReadRunwaySection(Editor& ed, MisLines& lines, std::string& line) {
     std::int32_t rwyId = 0;
     float rwyLat = 0;
+    static const MisKeys kKeys{"id", "base_lat", "base_lon"};
+    enum : std::uint32_t { kId = 1, kLat = 2, kLon = 4 };
     ForEachSectionLine(lines, line, false, [&](const std::string& l, const std::string& v) {
-        if (MisHasKey(l, "id")) {
+        const std::uint32_t keys = kKeys.In(l);
+        if (keys & kId) {
             rwyId = ValLng(v);
             ed.StepDetail = IntText(rwyId);
-        } else if (MisHasKey(l, "base_lat")) {
+        } else if (keys & kLat) {
             ed.StepDetail = IntText(rwyId) + "\nTranslating Base Lat";
             std::string text = v;
             rwyLat = CSng(CoordTextToDegrees(NormalizeCoordText(text, "00.00")));
-        } else if (MisHasKey(l, "base_lon")) {
+        } else if (keys & kLon) {
             ed.StepDetail = IntText(rwyId) + "\nTranslating Base Lon";
             std::string text = v;
             const float rwyLon = CSng(CoordTextToDegrees(NormalizeCoordText(text, "00.00")));
@@ -399,29 +447,45 @@ void ReadStringsSection(Editor& ed, MisLines& lines, std::string& line) {
         path = CInt(Val(Mid(l, static_cast<long long>(next) + 1, 2)));
     };
 
+    static const MisKeys kKeys{"title_string", "summary_string",  "objective_string", "type_string",
+                               "tip_string",   "airfield_string", "date_string",      "name_string",
+                               "waypointname", "waypointtip"};
+    enum : std::uint32_t {
+        kTitle = 1,
+        kSummary = 2,
+        kObjective = 4,
+        kType = 8,
+        kTip = 16,
+        kAirfield = 32,
+        kDate = 64,
+        kName = 128,
+        kPointName = 256,
+        kPointTip = 512
+    };
     ForEachSectionLine(lines, line, true, [&](const std::string& l, const std::string& v) {
-        if (MisHasKey(l, "title_string")) {
+        const std::uint32_t keys = kKeys.In(l);
+        if (keys & kTitle) {
             frm.txtTitle.SetText(v);
-        } else if (MisHasKey(l, "summary_string")) {
+        } else if (keys & kSummary) {
             frm.txtSummary.SetText(v);
-        } else if (MisHasKey(l, "objective_string")) {
+        } else if (keys & kObjective) {
             frm.txtObjective.SetText(v);
-        } else if (MisHasKey(l, "type_string")) {
+        } else if (keys & kType) {
             frm.txtType.SetText(v);
-        } else if (MisHasKey(l, "tip_string")) {
+        } else if (keys & kTip) {
             frm.txtTip.SetText(v);
-        } else if (MisHasKey(l, "airfield_string")) {
+        } else if (keys & kAirfield) {
             frm.lblAirfield.SetCaption(v);
-        } else if (MisHasKey(l, "date_string")) {
+        } else if (keys & kDate) {
             frm.txtDate.SetText(v);
-        } else if (MisHasKey(l, "name_string")) {
+        } else if (keys & kName) {
             nameNextPilot(v);
-        } else if (MisHasKey(l, "waypointname")) {
+        } else if (keys & kPointName) {
             int point = 0;
             int path = 0;
             pointAndPath(l, point, path);
             doc.WPName(path, point) = v;
-        } else if (MisHasKey(l, "waypointtip")) {
+        } else if (keys & kPointTip) {
             int point = 0;
             int path = 0;
             pointAndPath(l, point, path);

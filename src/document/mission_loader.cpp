@@ -1,10 +1,7 @@
 #include "document/mission_loader.h"
 
-#include <fstream>
-#include <iterator>
 #include <string>
 
-#include "common/encoding.h"
 #include "common/error.h"
 #include "common/number_text.h"
 #include "common/paths.h"
@@ -22,6 +19,7 @@
 #include "shell/measurement.h"
 #include "shell/message_screen.h"
 #include "shell/recent_files.h"
+#include "shell/status_strip.h"
 
 namespace tarvex {
 
@@ -33,14 +31,6 @@ constexpr int kDefaultPointer = 0;
 void EndLoadMessage(Editor& ed) {
     ed.MDIMissionED.SetMousePointer(kDefaultPointer);
     CloseMessageScreen(ed);
-}
-
-std::string ReadWholeFile(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    if (!in) Raise(kErrFileNotFound);
-    std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-    if (in.bad()) Raise(kErrPathAccess);
-    return bytes;
 }
 
 void StartLoadState(Editor& ed) {
@@ -55,6 +45,10 @@ void StartLoadState(Editor& ed) {
     ed.StepText = "Opening Mission File";
     ed.StepDetail.clear();
     st.FileUnitID.Fill(0);
+    st.LayoutNotes.clear();
+    st.LayoutKept = false;
+    st.PendingUnits.clear();
+    st.CommentLayoutID = -1;
 }
 
 // The main loop: headers are found anywhere in a line, with regard to case, in a fixed order.
@@ -63,9 +57,11 @@ void ReadSections(Editor& ed, MisLines& lines) {
     std::int16_t unitId = 0;
     std::int16_t typeId = 0;
     std::string line;
+    bool anySection = false;
     auto begin = [&](const char* stepText) {
         ed.StepText = stepText;
         ed.StepDetail.clear();
+        anySection = true;
     };
     while (!lines.AtEnd()) {
         line = lines.Read();
@@ -95,6 +91,7 @@ void ReadSections(Editor& ed, MisLines& lines) {
             ReadStringsSection(ed, lines, line);
         }
     }
+    if (!anySection) lines.RaiseNotAMission("it has none of the sections of a mission");
 }
 
 // The tabs from the arrays: path 0 in the waypoint list, the first rows selected.
@@ -148,6 +145,10 @@ void RebuildTabs(Editor& ed) {
         frm.lstGrnUnits, "SELECT LayoutName,ID FROM GrndNames WHERE GUType=1 ORDER BY LayoutName;");
     for (int i = 0; i < Mission::kMaxPaths; ++i)
         frm.optColor(i).SetEnabled(doc.PathPointCount(i) != 0);
+
+    // What the load did to the layouts changes the file at the next save: the designer is told.
+    const std::string notes = LayoutNotesText(ed.loader.LayoutNotes);
+    if (!notes.empty()) ShowStatus(ed, notes, kStatusWarning);
 }
 
 void ReportLoadFailure(Editor& ed, int number, const std::string& description) {
@@ -162,6 +163,10 @@ void ReportLoadFailure(Editor& ed, int number, const std::string& description) {
     box.icon = MsgIcon::Critical;
     ed.svc.dialogs.MsgBox(box);
     ed.db.theRS.Close();
+    // The half-read document must not be saved over the file that failed: the next Save asks
+    // for a name.
+    ed.doc.MissionPath.clear();
+    ed.MDIMissionED.SetCaption(kProgramTitle);
 }
 
 }  // namespace
@@ -191,23 +196,25 @@ int ChooseMissionToOpen(Editor& ed) {
 void LoadMission(Editor& ed) {
     ShowMessageScreen(ed, "Loading Mission File");
     // The layouts a load adds or drops go to disk in one commit; what was written stays,
-    // also when the load fails.
-    Transaction transaction(ed.db.theDB);
+    // also when the load fails. The write lock is taken at the start, so that another copy of
+    // the program writing at the same time is waited for instead of failing the load.
+    Transaction transaction(ed.db.theDB, TransactionKind::Write);
     try {
         StartLoadState(ed);
+        // A file that can't be a mission is refused before anything is written.
+        MisLines lines(ed.doc.MissionPath);
         ed.loader.PendingLayoutID = NewUnnamedLayout(ed);
-        MisLines lines(SplitLines(Cp1252ToUtf8(ReadWholeFile(ed.doc.MissionPath))));
         ed.MDIMissionED.SetMousePointer(kHourglass);
         ReadSections(ed, lines);
-        transaction.Commit();
+        EndLoadWrites(ed, transaction);
         ed.StepDetail.clear();
         RebuildTabs(ed);
         EndLoadMessage(ed);
     } catch (const AppError& e) {
-        transaction.Commit();
+        EndLoadWrites(ed, transaction);
         ReportLoadFailure(ed, e.Number(), e.Description());
     } catch (const std::exception& e) {
-        transaction.Commit();
+        EndLoadWrites(ed, transaction);
         ReportLoadFailure(ed, kErrInvalidCall, e.what());
     }
 }

@@ -63,20 +63,33 @@ constexpr WriterStep kWriterSteps[] = {
     {"Saving String Data", WriteStringsSection},
 };
 
-// The mission file and its export; any failure is raised to the save report.
-void WriteMissionFiles(Editor& ed) {
-    // All lookups of a save read one state of the reference database.
-    Transaction snapshot(ed.db.theDB);
-    ed.StepText = "Opening file for Save.";
-    ed.StepDetail.clear();
-    AtomicFileWriter file(ed.doc.MissionPath);
+std::string ComposeText(Editor& ed) {
     FileText text;
     for (const WriterStep& step : kWriterSteps) {
         ed.StepDetail.clear();
         ed.StepText = step.stepText;
         step.write(ed, text);
     }
-    file.Write(Utf8ToCp1252(text.Text()));
+    return Utf8ToCp1252(text.Text());
+}
+
+// The mission file and its export; any failure is raised to the save report.
+void WriteMissionFiles(Editor& ed) {
+    // All lookups of a save read one state of the reference database.
+    Transaction snapshot(ed.db.theDB);
+    ed.StepText = "Opening file for Save.";
+    ed.StepDetail.clear();
+    // The export takes the mission's name with "txt" for its last three characters: under
+    // any other name than "....mis" it could be the mission itself.
+    if (!EndsWithText(ed.doc.MissionPath, ".mis"))
+        Raise(kErrPathAccess,
+              ed.doc.MissionPath + ": a mission is saved only under a name ending in .mis");
+    AtomicFileWriter file(ed.doc.MissionPath);
+    const std::string bytes = ComposeText(ed);
+    // The text goes to disk in one piece, after the steps that composed it.
+    ed.StepText = "Writing the mission file to disk";
+    ed.StepDetail.clear();
+    file.Write(bytes);
     file.Commit();
 
     ed.StepText = "Saving EXCEL Import File";
@@ -103,6 +116,10 @@ int ChooseMissionToSave(Editor& ed, std::string& path) {
         dialog.ShowSave();
         path = dialog.FileName;
         doc.MissionFile = dialog.FileTitle;
+        if (!EndsWithText(path, ".mis")) {
+            path += ".mis";
+            doc.MissionFile += ".mis";
+        }
         return 0;
     } catch (const AppError& e) {
         if (e.Number() != kErrCancel) ShowErrorBox(ed, e.Number(), e.Description());
@@ -135,9 +152,15 @@ void SaveMission(Editor& ed) {
     ShowStatus(ed, "Ready...", kStatusNormal);
 }
 
+std::string ComposeMissionText(Editor& ed) {
+    Transaction snapshot(ed.db.theDB);
+    return ComposeText(ed);
+}
+
 void FileSave(Editor& ed) {
     if (!ValidateMission(ed)) return;
-    if (ed.doc.MissionPath.empty() && ChooseMissionToSave(ed, ed.doc.MissionPath) != 0) return;
+    const bool named = EndsWithText(ed.doc.MissionPath, ".mis");
+    if (!named && ChooseMissionToSave(ed, ed.doc.MissionPath) != 0) return;
     SaveMission(ed);
 }
 

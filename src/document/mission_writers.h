@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "document/file_text.h"
+#include "refdata/shared_lookup.h"
 #include "shell/editor.h"
 #include "shell/forms/frm_mission.h"
 
@@ -43,20 +44,6 @@ void ForEachPilot(Editor& ed, Fn fn) {
         for (int p = 0; p <= Mission::kPilotUpper && !ed.doc.PilotName(g, p).empty(); ++p)
             fn(g, p);
 }
-
-// A query on the shared recordset slot for the time of one writer step: opened as a
-// snapshot, closed again whatever happens.
-class SharedQuery {
-  public:
-    SharedQuery(Editor& ed, const std::string& sql) : rs(ed.db.theRS) {
-        rs = ed.db.theDB.OpenRecordset(sql, kSnapshot);
-    }
-    ~SharedQuery() { rs.Close(); }
-    SharedQuery(const SharedQuery&) = delete;
-    SharedQuery& operator=(const SharedQuery&) = delete;
-
-    Recordset& rs;
-};
 
 // The ids of the sorting list in its order (as text: "10" before "9"), each once: an id
 // equal to the one before it is skipped, and so is an id of 0.

@@ -20,10 +20,10 @@ void WriteRunwaySections(Editor& ed, FileText& out) {
     int n = 0;
     for (const std::int32_t id : DistinctSortedIds(sort)) {
         ed.StepDetail = ": Searching MDB.Airfields Table for RwyID " + IntText(id);
-        SharedQuery q(ed,
-                      "SELECT RwyID,RwyLat,RwyLon,TypeID,Elevation,ROT,Units FROM qryAirFields "
-                      "Where RwyID=" +
-                          IntText(id));
+        SharedLookup q(ed.db,
+                       "SELECT RwyID,RwyLat,RwyLon,TypeID,Elevation,ROT,Units FROM qryAirFields "
+                       "Where RwyID=" +
+                           IntText(id));
         q.rs.MoveFirst();
         // Four decimals first, then cut to two, as every runway position is written.
         double lat = q.rs.Fields(1).Double();

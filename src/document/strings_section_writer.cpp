@@ -35,8 +35,8 @@ void WriteStringsSection(Editor& ed, FileText& out) {
     for (int k = 0; k < added.ListCount(); ++k) {
         const std::int32_t id = LayoutIdFromItemData(added.ItemData(k));
         ed.StepDetail = ": Searching MDB.GrndTypes Table for ID " + IntText(id);
-        SharedQuery q(
-            ed, "SELECT ID,Points,FullName FROM qryGroundUnitDetails Where ID=" + IntText(id));
+        SharedLookup q(
+            ed.db, "SELECT ID,Points,FullName FROM qryGroundUnitDetails Where ID=" + IntText(id));
         if (q.rs.Eof()) continue;
         for (q.rs.MoveFirst(); !q.rs.Eof(); q.rs.MoveNext(), ++n) {
             // The simulator marks the units that score.

@@ -30,11 +30,8 @@ void SetSummaryDefaults(Editor& ed) {
     frm.txtTip.SetText("Stay Alive");
     frm.txtPctReqd.SetText("50");
     frm.txtTime.SetText(TwoDigits(now.hour) + ":" + TwoDigits(now.minute));
-    // Month first and padded; the last two digits of the year become 40.
-    std::string date =
-        TwoDigits(now.month) + "/" + TwoDigits(now.day) + "/" + std::to_string(now.year);
-    date.replace(date.size() - 2, 2, "40");
-    frm.txtDate.SetText(date);
+    // Month first and padded; the year is always 1940, whatever the century of the clock.
+    frm.txtDate.SetText(TwoDigits(now.month) + "/" + TwoDigits(now.day) + "/1940");
 }
 
 }  // namespace tarvex

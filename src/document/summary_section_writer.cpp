@@ -23,8 +23,8 @@ void WriteSummarySection(Editor& ed, FileText& out) {
     ed.StepDetail = ": Accessing MDB.Maps ";
     std::string name, top, left, bottom, right;
     {
-        SharedQuery q(ed, "SELECT Recnum,Name,Top,Left,Bottom,Right FROM Maps Where Recnum=" +
-                              IntText(frm.cmbSelectMap.ListIndex() + 1));
+        SharedLookup q(ed.db, "SELECT Recnum,Name,Top,Left,Bottom,Right FROM Maps Where Recnum=" +
+                                  IntText(frm.cmbSelectMap.ListIndex() + 1));
         q.rs.MoveFirst();
         name = q.rs.Fields(1).Text();
         top = q.rs.Fields(2).Text();

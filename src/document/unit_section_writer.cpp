@@ -60,8 +60,8 @@ void WriteUnitSections(Editor& ed, FileText& out) {
         place.SetLayoutFrame(doc.GULat(k), doc.GULon(k));
 
         ed.StepDetail = ": Searching MDB.GrndTypes Table for ID " + IntText(id);
-        SharedQuery q(
-            ed,
+        SharedLookup q(
+            ed.db,
             "SELECT ID,UnitType,Points,Heading,XOffset,YOffset,DamageID FROM GrndTypes Where ID=" +
                 IntText(id));
         q.rs.MoveFirst();

@@ -14,10 +14,10 @@ void WriteUnitTypeSections(Editor& ed, FileText& out) {
     for (const std::int32_t id : DistinctSortedIds(sort)) {
         doc.AcID = id;
         ed.StepDetail = ": Searching MDB.Aircraft Table for Aircraft ID " + IntText(id);
-        SharedQuery q(ed,
-                      "SELECT AcID,ShortName,Family,Allegiance,Gun,Cannon,Rockets,Bombs FROM "
-                      "Aircraft Where ACID=" +
-                          IntText(id));
+        SharedLookup q(ed.db,
+                       "SELECT AcID,ShortName,Family,Allegiance,Gun,Cannon,Rockets,Bombs FROM "
+                       "Aircraft Where ACID=" +
+                           IntText(id));
         q.rs.MoveFirst();
         out.Line("[unit_type." + IntText(n) + "]");
         out.Line("type_id=" + q.rs.Fields(0).Text());
@@ -38,17 +38,17 @@ void WriteUnitTypeSections(Editor& ed, FileText& out) {
     for (int k = 0; k < added.ListCount(); ++k) {
         const std::int32_t id = LayoutIdFromItemData(added.ItemData(k));
         ed.StepDetail = ": Searching MDB.GrndTypes Table for Unit ID " + IntText(id);
-        SharedQuery q(ed, "SELECT ID,UnitType FROM GrndTypes Where ID=" + IntText(id));
+        SharedLookup q(ed.db, "SELECT ID,UnitType FROM GrndTypes Where ID=" + IntText(id));
         for (q.rs.MoveFirst(); !q.rs.Eof(); q.rs.MoveNext())
             sort.AddItem(q.rs.Fields(1).Text());
     }
     for (const std::int32_t type : DistinctSortedIds(sort)) {
         doc.AcID = type;
         ed.StepDetail = ": Searching [qryGroundUnitDetails] for UnitType: " + IntText(type);
-        SharedQuery q(ed,
-                      "SELECT UnitType,StationaryName,Allegiance FROM qryGroundUnitDetails Where "
-                      "UnitType=" +
-                          IntText(type) + " ORDER BY GrndTypes.ID");
+        SharedLookup q(ed.db,
+                       "SELECT UnitType,StationaryName,Allegiance FROM qryGroundUnitDetails Where "
+                       "UnitType=" +
+                           IntText(type) + " ORDER BY GrndTypes.ID");
         q.rs.MoveFirst();
         out.Line("[unit_type." + IntText(n) + "]");
         out.Line("type_id=" + q.rs.Fields(0).Text());

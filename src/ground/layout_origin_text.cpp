@@ -18,14 +18,8 @@ void txtGULatLon_Change(Editor& ed) {
     if (!g.LatLonKeyDown) return;
     auto& frm = ed.FrmMission;
     TextBox& box = frm.txtGULatLon;
-    const std::string upper = UCase(box.Text());
-    if (upper != box.Text()) {
-        // The change this makes reads the text; the typing goes on where it was.
-        const int caret = box.SelStart();
-        box.SetText(upper);
-        box.SetSelStart(caret);
-        return;
-    }
+    // The change this makes reads the text; the typing goes on where it was.
+    if (box.UpperCaseKeepingCaret()) return;
 
     const std::string& text = box.Text();
     const size_t p = text.size() >= 5 ? InStr(text, " ", 5) : 0;

@@ -356,25 +356,7 @@ void cmdDeleteUnits_Click(Editor& ed) {
         return;
     }
     if (RecordLayoutLocked(ed)) return;
-    const auto rows = grid.SelBookmarks();
-    try {
-        Recordset& units = f.datSecondaryRS.Recordset();
-        // The rows go together or not at all.
-        Transaction transaction(f.datSecondaryRS.Connection());
-        try {
-            for (RecordBookmark row : rows) {
-                units.SetBookmark(row);
-                units.Delete();
-            }
-        } catch (const AppError&) {
-            transaction.Rollback();
-            throw;
-        }
-    } catch (const AppError& error) {
-        ShowDataError(ed, error.Description());
-    }
-    grid.ClearSelBookmarks();
-    RefreshRecordSource(f.datSecondaryRS);
+    DeleteSelectedRecords(ed, f.datSecondaryRS, grid);
     if (f.datSecondaryRS.HasRecordset())
         f.lblUnitCount.SetCaption(IntText(f.datSecondaryRS.Recordset().RecordCount()));
 }

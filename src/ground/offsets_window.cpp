@@ -318,25 +318,7 @@ void btnDelGU_Click(Editor& ed) {
     GroundState& g = ed.ground;
     DataGrid& grid = w.dbgGUOffsets;
     if (g.LayoutLocked || !w.dataGUOffsets.HasRecordset()) return;
-    const auto rows = grid.SelBookmarks();
-    try {
-        Recordset& rs = w.dataGUOffsets.Recordset();
-        // The rows go together or not at all.
-        Transaction transaction(w.dataGUOffsets.Connection());
-        try {
-            for (RecordBookmark row : rows) {
-                rs.SetBookmark(row);
-                rs.Delete();
-            }
-        } catch (const AppError&) {
-            transaction.Rollback();
-            throw;
-        }
-    } catch (const AppError& error) {
-        ShowDataError(ed, error.Description());
-    }
-    grid.ClearSelBookmarks();
-    RefreshRecordSource(w.dataGUOffsets);
+    DeleteSelectedRecords(ed, w.dataGUOffsets, grid);
     ed.FrmMission.mapGroundUnits.SetMousePointer(kDefaultPointer);
     w.btnDelGU.SetEnabled(false);
     g.SelectedUnit = -1;

@@ -66,15 +66,9 @@ void txtPoint_Change(Editor& ed) {
     auto& frm = ed.FrmMission;
     if (!frm.btnClrPoint.Visible()) return;
     TextBox& box = frm.txtPoint;
-    const std::string upper = UCase(box.Text());
-    if (upper != box.Text()) {
-        // The change of case runs this handler again, which does the rest; the caret stays
-        // where the designer types.
-        const int caret = box.SelStart();
-        box.SetText(upper);
-        box.SetSelStart(caret);
-        return;
-    }
+    // The change of case runs this handler again, which does the rest; the caret stays where
+    // the designer types.
+    if (box.UpperCaseKeepingCaret()) return;
     const std::string text = box.Text();
     const int row = frm.lstPoints.ListIndex();
     if (row >= 0) frm.lstPoints.SetList(row, Format(row + 1, "##00") + ". " + text);

@@ -1,7 +1,14 @@
 #include "refdata/database.h"
 
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
+
 #include "common/error.h"
 #include "refdata/connection.h"
+#include "refdata/sql_parameters.h"
 #include "refdata/sql_tokens.h"
 #include "refdata/sql_translation.h"
 
@@ -38,6 +45,11 @@ void Database::Open(const std::string& path) {
     connection_ = std::make_shared<detail::Connection>(path);
 }
 
+void Database::OpenReadOnly(const std::string& path) {
+    Close();
+    connection_ = std::make_shared<detail::Connection>(path, true);
+}
+
 bool Database::IsOpen() const {
     return connection_ && connection_->IsOpen();
 }
@@ -54,6 +66,11 @@ Recordset Database::OpenRecordset(const std::string& nameOrSql, int type) {
 
 void Database::Execute(const std::string& sql) {
     if (!IsOpen()) Raise(kErrObjectClosed, "Object invalid or no longer set.");
+    ParameterizedSql parameterized = ParameterizeSql(sql);
+    if (!parameterized.values.empty()) {
+        connection_->Run(TranslateSqlOnce(parameterized.shape), parameterized.values);
+        return;
+    }
     const std::string translated = TranslateSql(sql);
     // One statement goes through the statement cache; a script is run as it stands.
     if (SeveralStatements(translated)) {
@@ -69,8 +86,18 @@ void Database::Execute(const std::string& sql, const std::vector<FieldValue>& pa
 }
 
 void Database::CompactDatabase(const std::string& source, const std::string& destination) {
-    detail::Connection connection(source);
-    connection.Run("VACUUM INTO ?1", {FieldValue(destination)});
+    {
+        detail::Connection connection(source);
+        connection.Run("VACUUM INTO ?1", {FieldValue(destination)});
+    }
+    // The copy must be on disk before anything takes it for the database.
+    const int fd = ::open(destination.c_str(), O_RDWR | O_CLOEXEC);
+    if (fd < 0 || ::fsync(fd) != 0) {
+        const std::string message = std::strerror(errno);
+        if (fd >= 0) ::close(fd);
+        Raise(kErrSqlFailed, "can't write " + destination + ": " + message);
+    }
+    ::close(fd);
 }
 
 void Database::Close() {

@@ -25,6 +25,8 @@ class Database {
     // keys are enforced, and a busy file is waited for a few seconds, so that two copies of
     // the program can share it.
     void Open(const std::string& path);
+    // Opens a database file for reading only: nothing is ever written to it.
+    void OpenReadOnly(const std::string& path);
     bool IsOpen() const;
     const std::string& Name() const;
 

@@ -1,5 +1,9 @@
 #include "refdata/record_windows.h"
 
+#include "common/error.h"
+#include "refdata/transaction.h"
+#include "shell/controls/data_grid.h"
+#include "shell/controls/data_source.h"
 #include "shell/editor.h"
 #include "shell/forms/frm_aircraft.h"
 #include "shell/forms/frm_grnd_names.h"
@@ -21,6 +25,27 @@ void RefreshRecordSource(DataSource& source) {
     } catch (const AppError& error) {
         source.ReportUserError(error);
     }
+}
+
+void DeleteSelectedRecords(Editor& ed, DataSource& source, DataGrid& grid) {
+    const auto rows = grid.SelBookmarks();
+    try {
+        Recordset& records = source.Recordset();
+        Transaction transaction(source.Connection());
+        try {
+            for (RecordBookmark row : rows) {
+                records.SetBookmark(row);
+                records.Delete();
+            }
+        } catch (const AppError&) {
+            transaction.Rollback();
+            throw;
+        }
+    } catch (const AppError& error) {
+        ShowDataError(ed, error.Description());
+    }
+    grid.ClearSelBookmarks();
+    RefreshRecordSource(source);
 }
 
 bool LayoutEditorOpen(Editor& ed) {

@@ -6,6 +6,7 @@
 
 namespace tarvex {
 
+class DataGrid;
 class DataSource;
 class Editor;
 class Form;
@@ -15,6 +16,11 @@ void ShowDataError(Editor& ed, const std::string& text);
 
 // Reads the source again; a failure goes to the source's Error event, as the grid's own do.
 void RefreshRecordSource(DataSource& source);
+
+// Deletes the rows selected in the grid from its source, all in one transaction: a row the
+// database refuses shows the data error box and leaves every row in place. The selection is
+// dropped and the source read again either way.
+void DeleteSelectedRecords(Editor& ed, DataSource& source, DataGrid& grid);
 
 // The layout editor is open: it locks the entries that the record windows lock too.
 bool LayoutEditorOpen(Editor& ed);

@@ -2,11 +2,13 @@
 
 #include <algorithm>
 #include <cctype>
+#include <limits>
 
 #include "common/error.h"
 #include "common/text.h"
 #include "refdata/connection.h"
 #include "refdata/database_errors.h"
+#include "refdata/sql_parameters.h"
 #include "refdata/sql_tokens.h"
 #include "refdata/sql_translation.h"
 
@@ -53,7 +55,9 @@ Recordset& Recordset::operator=(Recordset&&) noexcept = default;
 Recordset::Recordset(std::shared_ptr<detail::Connection> connection, const std::string& nameOrSql,
                      int type)
     : connection_(std::move(connection)), type_(type) {
-    const std::string sql = TranslateSql(nameOrSql);
+    ParameterizedSql parameterized = ParameterizeSql(nameOrSql);
+    const std::string sql = TranslateSqlOnce(parameterized.shape);
+    loadParameters_ = std::move(parameterized.values);
     const bool snapshot = type == kSnapshot;
     std::string source;
     std::string selectList = "*";
@@ -93,8 +97,21 @@ Recordset::Recordset(std::shared_ptr<detail::Connection> connection, const std::
     if (snapshot) Load();
 }
 
+bool Recordset::FetchTo(long index) const {
+    while (cursor_ && index >= static_cast<long>(rows_.size())) {
+        std::vector<FieldValue> values;
+        if (!cursor_->Next(values)) {
+            cursor_.reset();
+            break;
+        }
+        rows_.push_back(MakeRow(std::move(values)));
+    }
+    return index < static_cast<long>(rows_.size());
+}
+
 void Recordset::Close() noexcept {
     open_ = false;
+    cursor_.reset();
     connection_.reset();
     rows_.clear();
     pendingAdds_.clear();
@@ -134,7 +151,18 @@ Recordset::Row Recordset::MakeRow(std::vector<FieldValue> values) const {
 }
 
 void Recordset::Load() const {
-    auto result = connection_->Query(loadSql_);
+    cursor_.reset();
+    if (type_ == kSnapshot) {
+        // A snapshot's rows come as they are read: a lookup of one row reads one row.
+        rows_.clear();
+        cursor_ = connection_->OpenCursor(loadSql_, loadParameters_);
+        FetchTo(0);
+        loaded_ = true;
+        position_ = 0;
+        onDeleted_ = false;
+        return;
+    }
+    auto result = connection_->Query(loadSql_, loadParameters_);
     rows_.clear();
     rows_.reserve(result.size() + pendingAdds_.size());
     for (auto& values : result)
@@ -164,6 +192,7 @@ bool Recordset::Bof() const {
 
 bool Recordset::Eof() const {
     EnsureLoaded();
+    FetchTo(position_);
     return rows_.empty() || position_ >= static_cast<long>(rows_.size());
 }
 
@@ -220,6 +249,7 @@ void Recordset::MoveFirst() {
 
 void Recordset::MoveLast() {
     EnsureLoaded();
+    FetchTo(std::numeric_limits<long>::max());
     if (rows_.empty()) Raise(kErrNoCurrentRecord);
     EndEdit();
     position_ = static_cast<long>(rows_.size()) - 1;
@@ -248,6 +278,7 @@ RecordBookmark Recordset::Bookmark() const {
 
 void Recordset::SetBookmark(RecordBookmark bookmark) {
     EnsureLoaded();
+    FetchTo(std::numeric_limits<long>::max());
     for (size_t i = 0; i < rows_.size(); ++i) {
         if (rows_[i].bookmark == bookmark) {
             EndEdit();
@@ -272,6 +303,7 @@ int Recordset::AbsolutePosition() const {
 
 void Recordset::SetAbsolutePosition(int position) {
     EnsureLoaded();
+    FetchTo(position);
     if (position < 0 || position >= static_cast<int>(rows_.size())) {
         Raise(kErrInvalidArgument, "Invalid argument.");
     }
@@ -282,6 +314,7 @@ void Recordset::SetAbsolutePosition(int position) {
 
 int Recordset::RecordCount() const {
     EnsureLoaded();
+    FetchTo(std::numeric_limits<long>::max());
     return static_cast<int>(rows_.size());
 }
 

@@ -19,6 +19,7 @@ namespace tarvex {
 
 namespace detail {
 class Connection;
+class Cursor;
 enum class ObjectKind;
 }  // namespace detail
 
@@ -131,6 +132,9 @@ class Recordset {
     void RequireUpdatable() const;
     void EnsureLoaded() const;
     void Load() const;
+    // Takes rows from the cursor of a snapshot until row `index` is there or the rows end;
+    // whether it is there.
+    bool FetchTo(long index) const;
     Row MakeRow(std::vector<FieldValue> values) const;
     int IndexOf(const std::string& name) const;
     const Row& CurrentRow() const;
@@ -152,12 +156,14 @@ class Recordset {
     int type_ = kUpdatable;
     Target target_ = Target::None;
     std::string targetName_;
-    std::string loadSql_;     // for a table: the rowid first, then the fields
-    std::string refetchSql_;  // for a table: the fields of one rowid
+    std::string loadSql_;                     // for a table: the rowid first, then the fields
+    std::vector<FieldValue> loadParameters_;  // the values taken out of the text
+    std::string refetchSql_;                  // for a table: the fields of one rowid
     std::vector<std::string> columns_;
 
     mutable bool loaded_ = false;
     mutable std::vector<Row> rows_;
+    mutable std::shared_ptr<detail::Cursor> cursor_;  // the rows of a snapshot not yet taken
     mutable long position_ = 0;       // -1 before the first row, rows_.size() after the last
     mutable bool onDeleted_ = false;  // the current row was deleted
     mutable RecordBookmark nextBookmark_ = 1;

@@ -1,5 +1,8 @@
 #include "refdata/reference_database.h"
 
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <filesystem>
 #include <system_error>
 
@@ -28,6 +31,16 @@ std::string CurrentFolder() {
     std::error_code error;
     const fs::path folder = fs::current_path(error);
     return error ? std::string() : folder.string();
+}
+
+// The rename of a file is on disk only once its folder is.
+void SyncFolderOf(const std::string& path) {
+    const std::string folder = fs::path(path).parent_path().string();
+    const int fd =
+        ::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (fd < 0) return;
+    ::fsync(fd);
+    ::close(fd);
 }
 
 void FileOperation(bool done, const std::error_code& error) {
@@ -133,11 +146,21 @@ void ReferenceDatabase::CompactReferenceDatabase(
     std::string failure;
     try {
         tempName = DBPath.substr(0, DBPath.size() >= 3 ? DBPath.size() - 3 : 0) + "tmp";
-        Database::CompactDatabase(DBPath, tempName);
+        // A copy that an interrupted compaction left is of no use to anyone.
         std::error_code error;
-        FileOperation(fs::remove(DBPath, error), error);
+        if (fs::is_regular_file(tempName, error)) fs::remove(tempName, error);
+        Database::CompactDatabase(DBPath, tempName);
+        // Another running copy still writing through its log would write into the file that
+        // the rename replaces; the compaction waits for a moment when the file is free.
+        if (fs::file_size(DBPath + "-wal", error) > 0 && !error) {
+            fs::remove(tempName, error);
+            Raise(kErrPathAccess, "another copy of Tarvex Mission Editor is using the database");
+        }
+        // One atomic step: at every moment there is a whole database under the name, the old
+        // one or the compacted one.
         fs::rename(tempName, DBPath, error);
         FileOperation(true, error);
+        SyncFolderOf(DBPath);
         tempName.clear();
     } catch (const AppError& error) {
         failure = error.Description();
@@ -159,6 +182,36 @@ void ReferenceDatabase::CompactReferenceDatabase(
                             "]\nIf all else fails, try restarting Tarvex Mission Editor",
                         "Database Compact Error", MsgButtons::OK, MsgIcon::Exclamation});
     }
+}
+
+bool IsReferenceDatabaseFile(const std::string& path, std::string& why) {
+    std::error_code error;
+    if (!fs::exists(path, error)) {
+        why = "database not found: " + path;
+        return false;
+    }
+    const std::string notOurs = "not a Tarvex reference database: " + path;
+    if (!fs::is_regular_file(path, error)) {
+        why = notOurs + " (it is not a file)";
+        return false;
+    }
+    // Read only, so that whatever the file is, it stays as it was.
+    std::string problem;
+    try {
+        Database db;
+        db.OpenReadOnly(path);
+        Recordset rs = db.OpenRecordset(
+            "SELECT Count(*) FROM sqlite_master WHERE name IN ('Aircraft', 'Airfields', 'Maps', "
+            "'GrndNames', 'GrndTypes', 'Stationary', 'frmNames', 'frmPatterns', 'tblMissions', "
+            "'qryNextGuID', 'qryGroundUnitDetails')",
+            kSnapshot);
+        if (rs.Fields(0).Long() != 11) problem = " (the program's tables are missing)";
+    } catch (const AppError&) {
+        problem = " (not a database file)";
+    }
+    if (problem.empty()) return true;
+    why = notOurs + problem;
+    return false;
 }
 
 std::int32_t LayoutIdFromItemData(std::int32_t value) {

@@ -59,6 +59,10 @@ class ReferenceDatabase {
     bool SummariesLoaded = false;
 };
 
+// Whether a file is a reference database, looked at without writing to it: a database file
+// of the engine with the program's tables. False, with the reason in words, otherwise.
+bool IsReferenceDatabaseFile(const std::string& path, std::string& why);
+
 // A layout list's item data to the layout id it stands for: an airfield layout's value
 // (k * 10000 + id) from 10001 on is reduced to its remainder by 10000; 10000 itself stays.
 std::int32_t LayoutIdFromItemData(std::int32_t value);

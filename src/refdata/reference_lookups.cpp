@@ -2,41 +2,21 @@
 
 #include "common/number_text.h"
 #include "document/coord_text.h"
+#include "refdata/shared_lookup.h"
 #include "shell/editor.h"
 #include "shell/forms/frm_mission.h"
 #include "shell/status_strip.h"
 
 namespace tarvex {
 
-namespace {
-
-// Opens a one-row lookup into theRS; the recordset is closed again whatever happens.
-class Lookup {
-  public:
-    Lookup(Editor& ed, const std::string& sql) : rs_(ed.db.theRS) {
-        rs_ = ed.db.theDB.OpenRecordset(sql, kSnapshot);
-        try {
-            rs_.MoveFirst();
-        } catch (...) {
-            rs_.Close();
-            throw;
-        }
-    }
-    ~Lookup() { rs_.Close(); }
-    Field operator[](int i) { return rs_.Fields(i); }
-
-  private:
-    Recordset& rs_;
-};
-
-}  // namespace
-
 void LoadAirfieldPoint(Editor& ed, std::string& latText, std::string& lonText, int row,
                        std::int16_t& typeID, std::int16_t& elevation, double& rot,
                        std::int16_t& rwyID) {
-    Lookup rs(
-        ed, "SELECT Recnum,RwyID,RwyLat,RwyLon,TypeID,Elevation,ROT FROM Airfields Where Recnum=" +
-                IntText(row + 1));
+    SharedLookup rs(
+        ed.db,
+        "SELECT Recnum,RwyID,RwyLat,RwyLon,TypeID,Elevation,ROT FROM Airfields Where Recnum=" +
+            IntText(row + 1));
+    rs->MoveFirst();
     // Four decimals first, then cut to the nine characters of a waypoint.
     double lat = rs[2].Double();
     double lon = rs[3].Double();
@@ -51,9 +31,10 @@ void LoadAirfieldPoint(Editor& ed, std::string& latText, std::string& lonText, i
 }
 
 void ShowAircraftAttributes(Editor& ed, std::int32_t id) {
-    Lookup rs(ed,
-              "SELECT AcID,Family,Allegiance,Gun,Cannon,Rockets,Bombs FROM Aircraft Where ACID=" +
-                  IntText(id));
+    SharedLookup rs(
+        ed.db, "SELECT AcID,Family,Allegiance,Gun,Cannon,Rockets,Bombs FROM Aircraft Where ACID=" +
+                   IntText(id));
+    rs->MoveFirst();
     const std::int32_t acId = rs[0].Long();
     const std::int16_t family = rs[1].Integer();
     const std::int16_t allegiance = rs[2].Integer();

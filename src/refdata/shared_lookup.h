@@ -21,6 +21,8 @@ class SharedLookup {
         rs.MoveFirst();
         return rs;
     }
+    Recordset* operator->() { return &rs; }
+    Field operator[](int index) { return rs.Fields(index); }
 
     Recordset& rs;
 };

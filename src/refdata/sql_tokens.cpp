@@ -9,8 +9,17 @@ namespace tarvex {
 namespace {
 
 bool IsWordChar(char c) {
-    return std::isalnum(static_cast<unsigned char>(c)) || c == '_' || c == '$' ||
-           static_cast<unsigned char>(c) >= 0x80;
+    const auto b = static_cast<unsigned char>(c);
+    return (b >= 'a' && b <= 'z') || (b >= 'A' && b <= 'Z') || (b >= '0' && b <= '9') || c == '_' ||
+           c == '$' || b >= 0x80;
+}
+
+bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+bool IsBlank(char c) {
+    return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\f' || c == '\v';
 }
 
 // The end of a quoted run that starts at `start` with `close` as its closing character; a
@@ -40,46 +49,75 @@ bool EndsFromClause(const SqlToken& token) {
     return false;
 }
 
+// The end of a number that starts at `i`: digits, a decimal part, an exponent.
+size_t NumberEnd(std::string_view sql, size_t i) {
+    auto digits = [&](size_t k) {
+        while (k < sql.size() && IsDigit(sql[k]))
+            ++k;
+        return k;
+    };
+    size_t end = digits(i);
+    if (end < sql.size() && sql[end] == '.') end = digits(end + 1);
+    if (end < sql.size() && (sql[end] == 'e' || sql[end] == 'E')) {
+        size_t k = end + 1;
+        if (k < sql.size() && (sql[k] == '+' || sql[k] == '-')) ++k;
+        if (k < sql.size() && IsDigit(sql[k])) end = digits(k);
+    }
+    return end;
+}
+
 }  // namespace
+
+SqlTokenSpan NextSqlToken(std::string_view sql, size_t i) {
+    const char c = sql[i];
+    size_t end = i + 1;
+    SqlTokenKind kind = SqlTokenKind::Punct;
+    if (IsBlank(c)) {
+        kind = SqlTokenKind::Space;
+        while (end < sql.size() && IsBlank(sql[end]))
+            ++end;
+    } else if (c == '-' && i + 1 < sql.size() && sql[i + 1] == '-') {
+        kind = SqlTokenKind::Space;
+        end = sql.find('\n', i);
+        end = end == std::string_view::npos ? sql.size() : end;
+    } else if (c == '/' && i + 1 < sql.size() && sql[i + 1] == '*') {
+        kind = SqlTokenKind::Space;
+        end = sql.find("*/", i + 2);
+        end = end == std::string_view::npos ? sql.size() : end + 2;
+    } else if (c == '\'') {
+        kind = SqlTokenKind::SingleQuoted;
+        end = QuotedEnd(sql, i, '\'');
+    } else if (c == '"') {
+        kind = SqlTokenKind::DoubleQuoted;
+        end = QuotedEnd(sql, i, '"');
+    } else if (c == '`') {
+        kind = SqlTokenKind::Backquoted;
+        end = QuotedEnd(sql, i, '`');
+    } else if (c == '[') {
+        kind = SqlTokenKind::Bracketed;
+        end = QuotedEnd(sql, i, ']');
+    } else if (IsDigit(c) || (c == '.' && i + 1 < sql.size() && IsDigit(sql[i + 1]))) {
+        // A number keeps its decimal part and exponent in one token; letters straight
+        // behind it make it a word, as "1st".
+        kind = SqlTokenKind::Word;
+        end = NumberEnd(sql, i);
+        while (end < sql.size() && IsWordChar(sql[end]))
+            ++end;
+    } else if (IsWordChar(c)) {
+        kind = SqlTokenKind::Word;
+        while (end < sql.size() && IsWordChar(sql[end]))
+            ++end;
+    }
+    return {kind, end};
+}
 
 std::vector<SqlToken> TokenizeSql(std::string_view sql) {
     std::vector<SqlToken> tokens;
     size_t i = 0;
     while (i < sql.size()) {
-        const char c = sql[i];
-        size_t end = i + 1;
-        SqlTokenKind kind = SqlTokenKind::Punct;
-        if (std::isspace(static_cast<unsigned char>(c))) {
-            kind = SqlTokenKind::Space;
-            while (end < sql.size() && std::isspace(static_cast<unsigned char>(sql[end])))
-                ++end;
-        } else if (c == '-' && i + 1 < sql.size() && sql[i + 1] == '-') {
-            kind = SqlTokenKind::Space;
-            end = sql.find('\n', i);
-            end = end == std::string_view::npos ? sql.size() : end;
-        } else if (c == '/' && i + 1 < sql.size() && sql[i + 1] == '*') {
-            kind = SqlTokenKind::Space;
-            end = sql.find("*/", i + 2);
-            end = end == std::string_view::npos ? sql.size() : end + 2;
-        } else if (c == '\'') {
-            kind = SqlTokenKind::SingleQuoted;
-            end = QuotedEnd(sql, i, '\'');
-        } else if (c == '"') {
-            kind = SqlTokenKind::DoubleQuoted;
-            end = QuotedEnd(sql, i, '"');
-        } else if (c == '`') {
-            kind = SqlTokenKind::Backquoted;
-            end = QuotedEnd(sql, i, '`');
-        } else if (c == '[') {
-            kind = SqlTokenKind::Bracketed;
-            end = QuotedEnd(sql, i, ']');
-        } else if (IsWordChar(c)) {
-            kind = SqlTokenKind::Word;
-            while (end < sql.size() && IsWordChar(sql[end]))
-                ++end;
-        }
-        tokens.push_back({kind, std::string(sql.substr(i, end - i))});
-        i = end;
+        const SqlTokenSpan span = NextSqlToken(sql, i);
+        tokens.push_back({span.kind, std::string(sql.substr(i, span.end - i))});
+        i = span.end;
     }
     return tokens;
 }

@@ -2,6 +2,7 @@
 // A small lexer for the SQL the program sends, enough to find the clauses of a simple SELECT
 // and to rewrite literals without touching anything inside quotes or brackets. Joining the
 // texts of the tokens gives back the input exactly.
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -22,6 +23,14 @@ struct SqlToken {
     SqlTokenKind kind;
     std::string text;
 };
+
+// The token that starts at `start` (below the size of the text): its kind and where it ends.
+// A number is one word with its decimal part and exponent.
+struct SqlTokenSpan {
+    SqlTokenKind kind;
+    size_t end;
+};
+SqlTokenSpan NextSqlToken(std::string_view sql, size_t start);
 
 std::vector<SqlToken> TokenizeSql(std::string_view sql);
 std::string JoinSqlTokens(const std::vector<SqlToken>& tokens);

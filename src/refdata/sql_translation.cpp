@@ -1,5 +1,6 @@
 #include "refdata/sql_translation.h"
 
+#include <unordered_map>
 #include <vector>
 
 #include "common/text.h"
@@ -83,6 +84,25 @@ std::string TranslateSql(std::string_view sql) {
     DropDeleteStar(tokens);
     DropForeignOrderQualifiers(tokens, ParseSelect(sql));
     return JoinSqlTokens(tokens);
+}
+
+std::string QuotesDoubled(std::string_view text, char quote) {
+    std::string out;
+    out.reserve(text.size());
+    for (const char c : text) {
+        if (c == quote) out += quote;
+        out += c;
+    }
+    return out;
+}
+
+const std::string& TranslateSqlOnce(const std::string& sql) {
+    // The program has a few dozen shapes; a runaway caller only makes the memory start afresh.
+    constexpr size_t kMaxRemembered = 1024;
+    thread_local std::unordered_map<std::string, std::string> remembered;
+    if (const auto found = remembered.find(sql); found != remembered.end()) return found->second;
+    if (remembered.size() >= kMaxRemembered) remembered.clear();
+    return remembered.emplace(sql, TranslateSql(sql)).first->second;
 }
 
 }  // namespace tarvex

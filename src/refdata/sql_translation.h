@@ -14,4 +14,12 @@ namespace tarvex {
 //   see the tables behind a view.
 std::string TranslateSql(std::string_view sql);
 
+// A text to stand between two `quote` characters in SQL: each quote inside it doubled, so
+// that a name like O'Brien never ends the literal early.
+std::string QuotesDoubled(std::string_view text, char quote);
+
+// TranslateSql of a text that comes again and again (a shape with its values taken out),
+// worked out once and remembered. The reference holds until the next call.
+const std::string& TranslateSqlOnce(const std::string& sql);
+
 }  // namespace tarvex

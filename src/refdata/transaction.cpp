@@ -4,9 +4,9 @@
 
 namespace tarvex {
 
-Transaction::Transaction(Database& db) : db_(db) {
+Transaction::Transaction(Database& db, TransactionKind kind) : db_(db) {
     try {
-        db_.Execute("BEGIN");
+        db_.Execute(kind == TransactionKind::Write ? "BEGIN IMMEDIATE" : "BEGIN");
         open_ = true;
     } catch (const AppError&) {
     }
@@ -18,15 +18,23 @@ void Transaction::Commit() noexcept {
     try {
         db_.Execute("COMMIT");
     } catch (...) {
+        // A commit that can't finish (the disk full) must not leave the transaction open
+        // for every statement after it.
+        try {
+            db_.Execute("ROLLBACK");
+        } catch (...) {
+        }
     }
 }
 
-void Transaction::Rollback() noexcept {
-    if (!open_) return;
+bool Transaction::Rollback() noexcept {
+    if (!open_) return false;
     open_ = false;
     try {
         db_.Execute("ROLLBACK");
+        return true;
     } catch (...) {
+        return false;
     }
 }
 

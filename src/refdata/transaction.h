@@ -7,18 +7,25 @@
 
 namespace tarvex {
 
+enum class TransactionKind {
+    Read,   // reads only: sees one state of the file
+    Write,  // will write: takes the write lock at the start, waiting for another copy that
+            // holds it, so that it never has to upgrade a stale read and fail as busy
+};
+
 class Transaction {
   public:
-    explicit Transaction(Database& db);
+    explicit Transaction(Database& db, TransactionKind kind = TransactionKind::Read);
     ~Transaction() { Commit(); }
     Transaction(const Transaction&) = delete;
     Transaction& operator=(const Transaction&) = delete;
 
     // Ends the transaction early, keeping what was written.
     void Commit() noexcept;
-    // Ends it dropping everything written since it began: for writes that belong together
-    // and failed half-way.
-    void Rollback() noexcept;
+    // Ends it undoing what was written since it began: for writes that belong together and
+    // failed half-way, or a load that kept nothing. False when there was no transaction to undo
+    // (the statements were kept one by one) or the undo failed.
+    bool Rollback() noexcept;
 
   private:
     Database& db_;

@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <string>
 #include <vector>
 
@@ -125,6 +127,94 @@ TEST_F(CommandTest, FindsTheDatabaseOrSaysWhyNot) {
     r = Run({"check", good, "--db", (folder / "garbage.mdb").string()});
     EXPECT_EQ(r.code, 66);
     EXPECT_NE(r.err.find("garbage.mdb"), std::string::npos) << r.err;
+}
+
+// What the tool refuses, with the file and the cause in its first line, and what it leaves
+// as it was: a mission is never overwritten by an export, a --db that isn't a reference
+// database is never written to.
+TEST_F(CommandTest, RefusesWhatWouldOverwriteOrIsntOurs) {
+    const std::string good = Mission("good.mis");
+    const std::string notes = (sim / "missions" / "notes.txt").string();
+    std::ofstream(notes, std::ios::binary) << "my notes";
+    const fs::path empty = folder / "empty.mdb";
+    std::ofstream(empty, std::ios::binary).flush();
+    const fs::path notAMission = sim / "missions" / "folder.mis";
+    fs::create_directories(notAMission);
+    const struct {
+        const char* what;
+        std::vector<std::string> args;
+        int code;
+        std::string say;  // in the output or the complaints
+    } cases[] = {
+        {"an export over its mission", With({"export", notes}), 64,
+         "notes.txt: a mission file's name must end in .mis"},
+        {"a resave to another kind of name", With({"resave", good, notes}), 64,
+         "notes.txt: a mission file's name must end in .mis"},
+        {"an empty --db",
+         {"check", good, "--db", empty.string(), "--sim", sim.string()},
+         66,
+         "tarvex-mis: not a Tarvex reference database: " + empty.string()},
+        {"a folder for a mission", With({"info", notAMission.string()}), 1,
+         notAMission.string() + " is a folder, not a mission file"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        const ToolResult r = Run(c.args);
+        EXPECT_EQ(r.code, c.code) << r.out << r.err;
+        EXPECT_NE((r.out + r.err).find(c.say), std::string::npos) << r.out << r.err;
+    }
+    EXPECT_EQ(ReadTextFile(notes), "my notes");
+    EXPECT_EQ(fs::file_size(empty), 0u);
+}
+
+// A resave whose mission is written but whose export isn't says so with a code of its own.
+TEST_F(CommandTest, AnExportThatFailsAfterTheMissionIsSaid) {
+    const std::string out = (folder / "out.mis").string();
+    fs::create_directories(folder / "out.txt" / "inside");
+    const ToolResult r = Run(With({"resave", Mission("good.mis"), out}));
+    EXPECT_EQ(r.code, 4) << r.err;
+    EXPECT_NE(r.err.find("saved, but its export"), std::string::npos) << r.err;
+    EXPECT_TRUE(fs::is_regular_file(out));
+}
+
+// check says what the first save of a mission changes, and diff shows it line by line.
+TEST_F(CommandTest, SaysWhatAFirstSaveChanges) {
+    const std::string mission = Mission("sweep.mis");
+    const ToolResult check = Run(With({"check", mission}));
+    EXPECT_EQ(check.code, 0) << check.err;
+    for (const char* line :
+         {"sweep.mis: OK", "a first save changes ",
+          "layout 2 'Unnamed Layout1 in file [sweep]' is new: the load made it from the file's "
+          "units",
+          " km from ", "and is taken by its runway: its "})
+        EXPECT_NE(check.out.find(line), std::string::npos) << line << "\n" << check.out;
+
+    const ToolResult diff = Run(With({"diff", mission}));
+    EXPECT_EQ(diff.code, 0) << diff.err;
+    EXPECT_EQ(diff.out.rfind("--- " + mission + "\n+++ " + mission + " (resaved)\n@@ -", 0), 0u)
+        << diff.out;
+    EXPECT_NE(diff.out.find("\n-position_lat="), std::string::npos) << diff.out;
+}
+
+// The scratch copy of the database goes when the run is ended by a signal, and a later run
+// removes what a killed one left.
+TEST_F(CommandTest, LeavesNoScratchCopyBehind) {
+    const fs::path temp = folder / "temp";
+    fs::create_directories(temp / "tarvex-mis-999999-abcdef");
+    // Enough missions that the run is still busy when the signal comes.
+    for (int i = 0; i < 400; ++i)
+        Mission("m" + std::to_string(1000 + i) + ".mis");
+    std::string command =
+        "cd " + Quote(folder.string()) + " && env TMPDIR=" + Quote(temp.string()) +
+        " HOME=" + Quote(config.string()) + " TARVEX_HOME=" + Quote(home) + " " +
+        Quote(TARVEX_MIS) + " check " + Quote((sim / "missions").string()) + " --db " +
+        Quote(db.string()) + " --sim " + Quote(sim.string()) +
+        " >/dev/null 2>&1 & pid=$!; sleep 0.2; kill -TERM $pid; wait $pid 2>/dev/null";
+    std::system(command.c_str());
+    std::vector<std::string> left;
+    for (const auto& entry : fs::directory_iterator(temp))
+        left.push_back(entry.path().filename().string());
+    EXPECT_TRUE(left.empty()) << left.front();
 }
 
 }  // namespace

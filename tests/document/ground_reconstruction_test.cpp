@@ -70,20 +70,6 @@ TEST_F(LoaderTest, FoldsGroundUnitsIntoKnownNewAndAirfieldLayouts) {
     EXPECT_EQ(ed.FrmMission.lstGUAdded.ItemData(1), id);
 }
 
-TEST_F(LoaderTest, MissionWithoutGroundUnitsLeavesItsEmptyPendingLayout) {
-    std::string text = SampleText();
-    // Cut the ground units out: from [unit.3] to the unit types.
-    text.erase(text.find("[unit.3]"), text.find("[unit_type.0]") - text.find("[unit.3]"));
-    const long long before = Count("SELECT Count(*) FROM GrndNames");
-    LoadBytes(text, "noground.mis");
-    ASSERT_TRUE(t.dialogs.messages.empty()) << LastReport();
-    EXPECT_EQ(ed.doc.GUCount, 0);
-    EXPECT_EQ(Count("SELECT Count(*) FROM GrndNames"), before + 1);
-    EXPECT_EQ(Count("SELECT Count(*) FROM GrndNames WHERE UnitTotal=0 AND "
-                    "LayoutName='Unnamed Layout1 in file [noground]'"),
-              1);
-}
-
 TEST_F(LoaderTest, LayoutWithoutUnitTypeSectionsIsNeverClosed) {
     std::string text = SampleText();
     const auto from = text.find("[unit_type.0]");

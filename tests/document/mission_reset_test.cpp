@@ -151,7 +151,7 @@ TEST(MissionResetTest, SummaryDefaultsTakeTheUserAndAFortiesDate) {
     } cases[] = {
         {{1999, 11, 18, 9, 5, 0}, "11/18/1940", "09:05"},
         {{1999, 3, 7, 23, 59, 0}, "03/07/1940", "23:59"},
-        {{2026, 12, 1, 0, 0, 0}, "12/01/2040", "00:00"},
+        {{2026, 11, 23, 0, 0, 0}, "11/23/1940", "00:00"},
     };
     for (const auto& c : cases) {
         TestEditor t;

@@ -8,6 +8,8 @@
 #include "writer_test_mission.h"
 
 #include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
@@ -97,12 +99,12 @@ TEST(MissionSaverTest, ReportsAFailureAndLeavesTheOldFileWhole) {
              fs::permissions(f.file, fs::perms::owner_read | fs::perms::group_read);
          },
          "While [*** Opening file for Save. ***].\n"
-         "The following error occurred\nPath/File access error Error [75]",
+         "The following error occurred\nFILE is read-only Error [75]",
          false},
         {"a folder at the export's name",
          [](SaveFixture& f) { fs::create_directories(f.exportFile / "inside"); },
          "While [*** Saving EXCEL Import File ***].\n"
-         "The following error occurred\nPath/File access error Error [75]",
+         "The following error occurred\nEXPORT is a folder Error [75]",
          true},
     };
     for (const auto& c : cases) {
@@ -116,7 +118,12 @@ TEST(MissionSaverTest, ReportsAFailureAndLeavesTheOldFileWhole) {
         SaveMission(f.ed);
 
         ASSERT_EQ(f.t.dialogs.messages.size(), 1u);
-        EXPECT_EQ(f.t.dialogs.messages[0].text, c.report);
+        std::string report = c.report;
+        if (const auto at = report.find("FILE"); at != std::string::npos)
+            report.replace(at, 4, f.file.string());
+        if (const auto at = report.find("EXPORT"); at != std::string::npos)
+            report.replace(at, 6, f.exportFile.string());
+        EXPECT_EQ(f.t.dialogs.messages[0].text, report);
         EXPECT_EQ(f.t.dialogs.messages[0].title, "sweep.mis *** Save Mission File Error ***");
         EXPECT_EQ(f.t.dialogs.messages[0].icon, MsgIcon::Critical);
         EXPECT_EQ(f.FolderNames(), before);
@@ -137,7 +144,8 @@ TEST(MissionSaverTest, ReportsAFolderStandingAtTheMissionsName) {
     SaveMission(f.ed);
     EXPECT_EQ(f.t.dialogs.LastMessage(),
               "While [*** Opening file for Save. ***].\n"
-              "The following error occurred\nPath/File access error Error [75]");
+              "The following error occurred\n" +
+                  f.file.string() + " is a folder Error [75]");
     EXPECT_TRUE(fs::is_directory(f.file / "inside"));
     EXPECT_EQ(f.FolderNames(), std::vector<std::string>{"sweep.mis"});
 }
@@ -198,6 +206,53 @@ TEST(MissionSaverTest, AsksForANameWhenNeeded) {
     FileSaveAs(f.ed);
     EXPECT_EQ(f.t.dialogs.saves.size(), 2u);
     EXPECT_EQ(f.t.dialogs.messages.size(), 1u);
+}
+
+// The export takes the mission's name with "txt" for its last three characters, so a mission
+// is saved only under a name ending in .mis: the dialog adds it, Save asks for a name when the
+// mission's own doesn't end in it.
+TEST(MissionSaverTest, SavesAMissionOnlyUnderANameEndingInMis) {
+    const struct {
+        const char* typed;
+        const char* saved;
+    } cases[] = {{"raid", "raid.mis"}, {"raid.txt", "raid.txt.mis"}, {"Raid.MIS", "Raid.MIS"}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.typed);
+        SaveFixture f;
+        f.t.dialogs.QueueSave((f.folder / c.typed).string());
+        FileSaveAs(f.ed);
+        EXPECT_EQ(f.ed.doc.MissionFile, c.saved);
+        EXPECT_EQ(f.ed.doc.MissionPath, (f.folder / c.saved).string());
+        EXPECT_TRUE(fs::exists(f.folder / c.saved));
+    }
+    SaveFixture f;
+    const fs::path notes = f.folder / "notes.txt";
+    std::ofstream(notes, std::ios::binary) << "my notes";
+    f.ed.doc.MissionPath = notes.string();
+    f.t.dialogs.QueueSaveCancel();
+    FileSave(f.ed);
+    EXPECT_EQ(f.t.dialogs.saves.size(), 1u);
+    SaveMission(f.ed);  // straight to the saver: refused all the same
+    EXPECT_EQ(ReadBytes(notes), "my notes");
+}
+
+// A save killed half way leaves its temporary file beside the mission; the next save of that
+// mission takes it away, and leaves alone those of writers still running and of other files.
+TEST(MissionSaverTest, TheNextSaveRemovesTheTemporaryFilesOfAKilledOne) {
+    SaveFixture f;
+    const pid_t gone = fork();
+    if (gone == 0) _exit(0);
+    waitpid(gone, nullptr, 0);
+    const std::string dead = "sweep.mis.~" + std::to_string(gone) + "-0.tmp";
+    const std::string deadExport = "sweep.txt.~" + std::to_string(gone) + "-3.tmp";
+    const std::string running = "sweep.mis.~1-0.tmp";  // process 1 runs as long as the system
+    const std::string other = "other.mis.~" + std::to_string(gone) + "-0.tmp";
+    for (const std::string& name : {dead, deadExport, running, other})
+        std::ofstream(f.folder / name, std::ios::binary) << "[mission]\r\nversi";
+    SaveMission(f.ed);
+    EXPECT_TRUE(f.t.dialogs.messages.empty()) << f.t.dialogs.LastMessage();
+    EXPECT_EQ(f.FolderNames(),
+              (std::vector<std::string>{other, "sweep.mis", running, "sweep.txt"}));
 }
 
 }  // namespace

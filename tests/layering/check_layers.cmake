@@ -14,6 +14,7 @@ set(_lower_globs
     shell/controls/*
     refdata/connection.* refdata/database.* refdata/database_errors.h refdata/recordset.*
     refdata/field_value.* refdata/sql_tokens.* refdata/sql_translation.* refdata/transaction.*
+    refdata/sql_parameters.*
     document/mission.h document/checked_array.h document/mis_text.* document/coord_text.*
     document/file_text.h document/unit_placement.*
     maps/map_projection.* maps/map_catalogue.h maps/great_circle.*

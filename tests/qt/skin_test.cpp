@@ -68,7 +68,11 @@ class SkinTest : public ::testing::Test, public ScriptedServices {
         session->window().show();
         QApplication::processEvents();
     }
-    void TearDown() override { session.reset(); }
+    void TearDown() override {
+        session.reset();
+        std::error_code ignored;
+        std::filesystem::remove_all(folder, ignored);
+    }
 
     QWidget* Widget(const char* name, int index = -1) {
         return session->window().MissionView().WidgetOf(name, index);
@@ -648,15 +652,16 @@ TEST_F(SkinTest, StatusStripPaintsTheRecording) {
 }
 
 TEST(SkinProgram, ScreenshotOptionWritesAPicture) {
-    const QString out =
-        QString::fromStdString((testing::MakeTestFolder("screenshot") / "waypoints.png").string());
+    const std::filesystem::path folder = testing::MakeTestFolder("screenshot");
+    const std::filesystem::path config = folder / "config";
+    std::filesystem::create_directories(config);
+    const QString out = QString::fromStdString((folder / "waypoints.png").string());
     QProcess editor;
     editor.setWorkingDirectory(TARVEX_BINARY_DIR "/default-install");
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
     env.insert("QT_QPA_PLATFORM", "offscreen");
     env.insert("TARVEX_SIM_PATH", TARVEX_BINARY_DIR "/default-install/Tarvex");
-    env.insert("XDG_CONFIG_HOME",
-               QString::fromStdString(testing::MakeTestFolder("screenshot-config").string()));
+    env.insert("XDG_CONFIG_HOME", QString::fromStdString(config.string()));
     editor.setProcessEnvironment(env);
     editor.start(TARVEX_BINARY_DIR "/src/qt/tarvex-editor",
                  {"--screenshot", out, "--tab", "3",
@@ -664,9 +669,11 @@ TEST(SkinProgram, ScreenshotOptionWritesAPicture) {
     ASSERT_TRUE(editor.waitForFinished(60000));
     EXPECT_EQ(editor.exitCode(), 0) << editor.readAllStandardError().toStdString();
     const QImage image(out);
-    ASSERT_FALSE(image.isNull());
+    EXPECT_FALSE(image.isNull());
     EXPECT_GT(image.width(), 500);
     EXPECT_GT(image.height(), 400);
+    std::error_code ignored;
+    std::filesystem::remove_all(folder, ignored);
 }
 
 }  // namespace

@@ -55,12 +55,24 @@ fs::path MakeTestFolder(const std::string& purpose) {
     return folder;
 }
 
+namespace {
+
+// The folder of the default database built for this test program, removed when it exits.
+struct DefaultDatabaseFolder {
+    fs::path folder = fs::temp_directory_path() / ("tarvex-default-db-" + std::to_string(getpid()));
+    DefaultDatabaseFolder() { fs::create_directories(folder); }
+    ~DefaultDatabaseFolder() {
+        std::error_code ignored;
+        fs::remove_all(folder, ignored);
+    }
+};
+
+}  // namespace
+
 void CopyDefaultDatabase(const fs::path& file) {
+    static const DefaultDatabaseFolder home;
     static const fs::path built = [] {
-        const fs::path folder =
-            fs::temp_directory_path() / ("tarvex-default-db-" + std::to_string(getpid()));
-        fs::create_directories(folder);
-        const fs::path path = folder / "Tarvex Missions.mdb";
+        const fs::path path = home.folder / "Tarvex Missions.mdb";
         fs::remove(path);
         BuildDatabaseFile(path, SchemaSql() + "\n" + SeedSql());
         return path;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "common/error.h"
+#include "common/text.h"
 
 namespace tarvex {
 
@@ -45,6 +46,15 @@ void TextBox::SetSelText(const std::string& text) {
     selLength_ = 0;
     Notify(changed ? Aspect::Text : Aspect::Selection);
     if (changed && Change) Change();
+}
+
+bool TextBox::UpperCaseKeepingCaret() {
+    const std::string upper = UCase(text_);
+    if (upper == text_) return false;
+    const int caret = selStart_;
+    SetText(upper);
+    SetSelStart(caret);
+    return true;
 }
 
 void TextBox::SetLocked(bool locked) {

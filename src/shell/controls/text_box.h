@@ -23,6 +23,10 @@ class TextBox : public Control {
     // Replaces the selection, fires Change, leaves the caret after the inserted text.
     void SetSelText(const std::string& text);
 
+    // Puts the text in capitals, the caret where it was; true when that changed the text (the
+    // change then ran the Change handler again).
+    bool UpperCaseKeepingCaret();
+
     bool Locked() const { return locked_; }
     void SetLocked(bool locked);
     int MaxLength() const { return maxLength_; }  // 0: no limit
