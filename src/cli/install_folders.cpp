@@ -2,12 +2,11 @@
 
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <system_error>
 
-#include "cli/editor_settings_file.h"
 #include "common/paths.h"
+#include "platform/account_registry.h"
+#include "platform/ini_settings_store.h"
 #include "refdata/reference_database.h"
 #include "shell/settings.h"
 
@@ -45,12 +44,15 @@ InstallFolders FindInstallFolders() {
     folders.simFolder = JoinPath(home, "Tarvex") + kPathSeparator;
     folders.mapFolder = JoinPath(JoinPath(home, "Sortak"), "Sortak Maps") + kPathSeparator;
 
-    const std::string file = EditorSettingsFile(kSettingsApp);
-    std::ifstream in(file, std::ios::binary);
-    if (file.empty() || !in) return folders;
-    const std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+    // Before the editor's first run has stored "Path", it takes the simulator's folder from
+    // the registry, as this does.
+    const std::string sim = AccountRegistry().ReadRegistryValue(RegistryRoot::LocalMachine,
+                                                                kSimulatorRegistryKey, "path");
+    if (!sim.empty()) folders.simFolder = AbsoluteFolder(sim);
+
+    const IniSettingsStore settings;
     auto take = [&](const char* key, std::string& target) {
-        const auto value = IniValue(text, kSettingsSection, key);
+        const auto value = settings.Get(kSettingsApp, kSettingsSection, key);
         if (value && !value->empty()) target = *value;
     };
     take("Sortak DB", folders.database);

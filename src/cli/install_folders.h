@@ -14,8 +14,9 @@ struct InstallFolders {
 // The default installation: $TARVEX_HOME when set, else the one the build made.
 std::string DefaultInstallFolder();
 
-// The editor's "Sortak DB", "Path" and "Sortak Map" where its settings file holds them, the
-// default installation's for what it doesn't.
+// The editor's "Sortak DB", "Path" and "Sortak Map" where its settings file holds them; for
+// what it doesn't, the simulator's folder of the registry (as the editor's first run takes it)
+// and the default installation's.
 InstallFolders FindInstallFolders();
 
 // The path made absolute and with a trailing separator (for folders); the process's current

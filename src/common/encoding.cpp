@@ -28,75 +28,79 @@ char ToByte(char32_t codePoint) {
     return '?';
 }
 
-void AppendUtf8(std::string& out, char32_t cp) {
-    if (cp < 0x80) {
-        out += static_cast<char>(cp);
-    } else if (cp < 0x800) {
-        out += static_cast<char>(0xC0 | (cp >> 6));
-        out += static_cast<char>(0x80 | (cp & 0x3F));
-    } else {
-        out += static_cast<char>(0xE0 | (cp >> 12));
-        out += static_cast<char>(0x80 | ((cp >> 6) & 0x3F));
-        out += static_cast<char>(0x80 | (cp & 0x3F));
-    }
-}
-
 void AppendCp1252Byte(std::string& out, uint8_t b) {
     AppendUtf8(out, (b >= 0x80 && b < 0xA0) ? kHighTable[b - 0x80] : b);
 }
 
 }  // namespace
 
+void AppendUtf8(std::string& out, char32_t cp) {
+    if (cp < 0x80) {
+        out += static_cast<char>(cp);
+    } else if (cp < 0x800) {
+        out += static_cast<char>(0xC0 | (cp >> 6));
+        out += static_cast<char>(0x80 | (cp & 0x3F));
+    } else if (cp < 0x10000) {
+        out += static_cast<char>(0xE0 | (cp >> 12));
+        out += static_cast<char>(0x80 | ((cp >> 6) & 0x3F));
+        out += static_cast<char>(0x80 | (cp & 0x3F));
+    } else {
+        out += static_cast<char>(0xF0 | (cp >> 18));
+        out += static_cast<char>(0x80 | ((cp >> 12) & 0x3F));
+        out += static_cast<char>(0x80 | ((cp >> 6) & 0x3F));
+        out += static_cast<char>(0x80 | (cp & 0x3F));
+    }
+}
+
+bool NextCodePoint(std::string_view text, size_t& i, char32_t& cp) {
+    const auto lead = static_cast<uint8_t>(text[i]);
+    int extra = 0;
+    if (lead < 0x80) {
+        cp = lead;
+    } else if (lead >= 0xC2 && lead <= 0xDF) {
+        extra = 1;
+        cp = lead & 0x1F;
+    } else if (lead >= 0xE0 && lead <= 0xEF) {
+        extra = 2;
+        cp = lead & 0x0F;
+    } else if (lead >= 0xF0 && lead <= 0xF4) {
+        extra = 3;
+        cp = lead & 0x07;
+    } else {
+        ++i;
+        return false;
+    }
+    bool valid = i + static_cast<size_t>(extra) < text.size();
+    for (int k = 1; valid && k <= extra; ++k) {
+        const auto next = static_cast<uint8_t>(text[i + k]);
+        if ((next & 0xC0) != 0x80) {
+            valid = false;
+        } else {
+            cp = (cp << 6) | (next & 0x3F);
+        }
+    }
+    // Overlong forms and surrogates are broken sequences too.
+    if (valid && ((extra == 2 && (cp < 0x800 || (cp >= 0xD800 && cp <= 0xDFFF))) ||
+                  (extra == 3 && (cp < 0x10000 || cp > 0x10FFFF)))) {
+        valid = false;
+    }
+    i += valid ? static_cast<size_t>(extra) + 1 : 1;
+    return valid;
+}
+
 std::string Utf8ToCp1252(std::string_view text) {
     std::string out;
     out.reserve(text.size());
     size_t i = 0;
     while (i < text.size()) {
+        // Runs of plain ASCII go across in one piece.
         const size_t run = i;
         while (i < text.size() && static_cast<uint8_t>(text[i]) < 0x80)
             ++i;
         out.append(text.data() + run, i - run);
         if (i == text.size()) break;
-        const auto lead = static_cast<uint8_t>(text[i]);
-        int extra = 0;
         char32_t cp = 0;
-        if (lead < 0x80) {
-            cp = lead;
-        } else if (lead >= 0xC2 && lead <= 0xDF) {
-            extra = 1;
-            cp = lead & 0x1F;
-        } else if (lead >= 0xE0 && lead <= 0xEF) {
-            extra = 2;
-            cp = lead & 0x0F;
-        } else if (lead >= 0xF0 && lead <= 0xF4) {
-            extra = 3;
-            cp = lead & 0x07;
-        } else {
-            out += '?';
-            ++i;
-            continue;
-        }
-        bool valid = i + static_cast<size_t>(extra) < text.size();
-        for (int k = 1; valid && k <= extra; ++k) {
-            const auto next = static_cast<uint8_t>(text[i + k]);
-            if ((next & 0xC0) != 0x80) {
-                valid = false;
-            } else {
-                cp = (cp << 6) | (next & 0x3F);
-            }
-        }
-        // Overlong forms and surrogates are broken sequences too.
-        if (valid && ((extra == 2 && (cp < 0x800 || (cp >= 0xD800 && cp <= 0xDFFF))) ||
-                      (extra == 3 && (cp < 0x10000 || cp > 0x10FFFF)))) {
-            valid = false;
-        }
-        if (!valid) {
-            out += '?';
-            ++i;
-            continue;
-        }
-        out += ToByte(cp);
-        i += static_cast<size_t>(extra) + 1;
+        out += NextCodePoint(text, i, cp) ? ToByte(cp) : '?';
     }
     return out;
 }

@@ -16,6 +16,13 @@ std::string Utf8ToCp1252(std::string_view text);
 // control characters of the same number, so they survive a round trip.
 std::string Cp1252ToUtf8(std::string_view bytes);
 
+// The UTF-8 bytes of a code point.
+void AppendUtf8(std::string& out, char32_t codePoint);
+
+// The code point of the UTF-8 sequence at text[i], moving i past it. A broken sequence is
+// false, with i moved past its first byte.
+bool NextCodePoint(std::string_view text, size_t& i, char32_t& codePoint);
+
 // Where the line that goes on at `from` ends: the first CR or LF from there, or the size.
 std::size_t LineEndAt(std::string_view text, std::size_t from);
 // Where the next line starts after a line end at `end` (one or two characters on).

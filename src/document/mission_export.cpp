@@ -5,7 +5,7 @@
 #include "common/encoding.h"
 #include "common/number_text.h"
 #include "common/text.h"
-#include "document/atomic_file_writer.h"
+#include "common/atomic_file_writer.h"
 #include "document/file_text.h"
 #include "refdata/reference_lookups.h"
 #include "shell/editor.h"

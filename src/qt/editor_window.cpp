@@ -4,8 +4,9 @@
 #include <QEvent>
 #include <QMenuBar>
 
-#include "qt/binders.h"
+#include "qt/binding.h"
 #include "qt/form_view.h"
+#include "qt/menu_bar.h"
 #include "shell/editor.h"
 #include "shell/forms/frm_about.h"
 #include "shell/forms/frm_aircraft.h"

@@ -3,7 +3,9 @@
 #include <QCloseEvent>
 #include <QScrollArea>
 
-#include "qt/binders.h"
+#include "qt/binding.h"
+#include "qt/timer_binding.h"
+#include "qt/widget_factory.h"
 
 namespace tarvex::qt {
 

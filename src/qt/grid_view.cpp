@@ -4,7 +4,7 @@
 #include <QHeaderView>
 #include <QScrollBar>
 
-#include "qt/binders.h"
+#include "qt/binding.h"
 
 namespace tarvex::qt {
 

@@ -3,7 +3,7 @@
 #include <QFontMetricsF>
 #include <QPainter>
 
-#include "qt/binders.h"
+#include "qt/binding.h"
 
 namespace tarvex::qt {
 

@@ -1,7 +1,5 @@
 #include "qt/services.h"
 
-#include <pwd.h>
-#include <unistd.h>
 #include <QApplication>
 #include <QAudioDevice>
 #include <QCoreApplication>
@@ -14,22 +12,18 @@
 #include <QLocalSocket>
 #include <QMediaDevices>
 #include <QMessageBox>
-#include <QSettings>
 #include <QSoundEffect>
-#include <QStandardPaths>
 #include <QStringList>
 #include <QUrl>
 #include <QWidget>
 #include <cstdio>
 #include <cstdlib>
 
+#include "qt/qt_text.h"
+
 namespace tarvex::qt {
 
 namespace {
-
-QString Q(const std::string& text) {
-    return QString::fromStdString(text);
-}
 
 QMessageBox::Icon IconOf(MsgIcon icon) {
     switch (icon) {
@@ -180,60 +174,6 @@ void QtSoundEngine::SetVolume(int engineVolume) {
     volume_ = std::clamp(engineVolume, 0, 100);
     for (auto& [handle, effect] : effects_)
         effect->setVolume(static_cast<float>(volume_) / 100.0f);
-}
-
-// ---- Settings ------------------------------------------------------------------------------
-
-namespace {
-
-std::unique_ptr<QSettings> SettingsOf(const std::string& app) {
-    return std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope, Q(app), Q(app));
-}
-
-QString KeyOf(const std::string& section, const std::string& key) {
-    return Q(section) + "/" + Q(key);
-}
-
-}  // namespace
-
-std::optional<std::string> QtSettingsStore::Get(const std::string& app, const std::string& section,
-                                                const std::string& key) const {
-    const QVariant value = SettingsOf(app)->value(KeyOf(section, key));
-    if (!value.isValid()) return std::nullopt;
-    return value.toString().toStdString();
-}
-
-void QtSettingsStore::Save(const std::string& app, const std::string& section,
-                           const std::string& key, const std::string& value) {
-    SettingsOf(app)->setValue(KeyOf(section, key), Q(value));
-}
-
-void QtSettingsStore::Delete(const std::string& app, const std::string& section,
-                             const std::string& key) {
-    SettingsOf(app)->remove(KeyOf(section, key));
-}
-
-// ---- Registry ------------------------------------------------------------------------------
-
-std::string QtRegistry::ReadRegistryValue(RegistryRoot, const std::string&,
-                                          const std::string& value) const {
-    const QString name = Q(value);
-    if (name.compare("path", Qt::CaseInsensitive) == 0) {
-        const char* sim = std::getenv("TARVEX_SIM_PATH");
-        return sim ? std::string(sim) : std::string();
-    }
-    if (name.compare("DefName", Qt::CaseInsensitive) == 0) {
-        if (const passwd* account = getpwuid(getuid())) {
-            // The full name is the first field of the account's comment.
-            std::string full = account->pw_gecos ? account->pw_gecos : "";
-            full = full.substr(0, full.find(','));
-            if (!full.empty()) return full;
-            if (account->pw_name) return account->pw_name;
-        }
-        const char* user = std::getenv("USER");
-        return user ? std::string(user) : std::string();
-    }
-    return {};
 }
 
 // ---- Second copy ---------------------------------------------------------------------------

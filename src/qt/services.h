@@ -1,12 +1,15 @@
 #pragma once
 // The desktop services of the editor on Qt: message, input and file boxes, the sound engine,
-// the settings store, the two registry values, the second-copy channel and the clock.
+// the second-copy channel and the clock; the settings file and the two registry values are
+// the core's, shared with tarvex-mis.
 #include <QObject>
 #include <QPointer>
 #include <QString>
 #include <map>
 #include <memory>
 
+#include "platform/account_registry.h"
+#include "platform/ini_settings_store.h"
 #include "platform/platform.h"
 
 class QLocalServer;
@@ -53,24 +56,6 @@ class QtSoundEngine : public SoundEngine {
     std::map<int, std::unique_ptr<QSoundEffect>> effects_;
 };
 
-// INI files under the user's configuration folder, one per application name.
-class QtSettingsStore : public SettingsStore {
-  public:
-    std::optional<std::string> Get(const std::string& app, const std::string& section,
-                                   const std::string& key) const override;
-    void Save(const std::string& app, const std::string& section, const std::string& key,
-              const std::string& value) override;
-    void Delete(const std::string& app, const std::string& section,
-                const std::string& key) override;
-};
-
-// The simulator's folder from TARVEX_SIM_PATH, the user's name from the account.
-class QtRegistry : public Registry {
-  public:
-    std::string ReadRegistryValue(RegistryRoot root, const std::string& subkey,
-                                  const std::string& value) const override;
-};
-
 // A local server named after the user: the first copy listens, a later copy finds it. The
 // window caption and the restore request travel as one line over the socket.
 class QtInstanceChannel : public QObject, public InstanceChannel {
@@ -103,8 +88,8 @@ class QtClock : public Clock {
 struct QtServices {
     QtDialogs dialogs;
     QtSoundEngine sound;
-    QtSettingsStore settings;
-    QtRegistry registry;
+    IniSettingsStore settings;
+    AccountRegistry registry;
     QtInstanceChannel instance;
     QtClock clock;
 };

@@ -1,11 +1,11 @@
 #include "qt/tab_view.h"
 
-#include <QDragEnterEvent>
-#include <QDropEvent>
 #include <QMouseEvent>
 #include <QTabBar>
 
-#include "qt/binders.h"
+#include "qt/binding.h"
+#include "qt/input_codes.h"
+#include "shell/controls/user_gestures.h"
 
 namespace tarvex::qt {
 
@@ -26,16 +26,9 @@ class TabBinding : public ControlBinding {
     TabView* view_;
 };
 
-int ShiftOf(Qt::KeyboardModifiers modifiers) {
-    return ((modifiers & Qt::ShiftModifier) ? kShiftMask : 0) |
-           ((modifiers & Qt::ControlModifier) ? kCtrlMask : 0) |
-           ((modifiers & Qt::AltModifier) ? kAltMask : 0);
-}
-
 }  // namespace
 
 TabView::TabView(TabControl& model, QWidget* parent) : QTabWidget(parent), model_(model) {
-    setAcceptDrops(true);
     tabBar()->installEventFilter(this);
     SyncPages();
 }
@@ -74,57 +67,31 @@ bool TabView::eventFilter(QObject* watched, QEvent* event) {
     const bool onPage = !onBar && event->type() != QEvent::Paint &&
                         std::find(pages_.begin(), pages_.end(), watched) != pages_.end();
     if (!onBar && !onPage) return false;
+    // The strip changes tab only through the model, also on the second press of a double click.
+    if (event->type() == QEvent::MouseButtonDblClick) return onBar;
     if (event->type() != QEvent::MouseButtonPress && event->type() != QEvent::MouseButtonRelease)
         return false;
     auto* mouse = static_cast<QMouseEvent*>(event);
-    const int button = mouse->button() == Qt::LeftButton    ? kLeftButton
-                       : mouse->button() == Qt::RightButton ? kRightButton
-                                                            : kMiddleButton;
+    const int button = ButtonOf(mouse->button());
     const int shift = ShiftOf(mouse->modifiers());
     float x = Twips(mouse->position().x());
     float y;
+    int tab = -1;
     if (onBar) {
         // The header strip is the model's top TabHeight; the point keeps its place within it.
         const double share =
             tabBar()->height() > 0 ? mouse->position().y() / tabBar()->height() : 0;
         y = static_cast<float>(std::clamp(share, 0.0, 1.0) * model_.TabHeight());
         x = Twips(tabBar()->mapTo(this, mouse->position().toPoint()).x());
+        tab = tabBar()->tabAt(mouse->position().toPoint());
     } else {
         y = model_.TabHeight() + Twips(mouse->position().y());
     }
-    if (event->type() == QEvent::MouseButtonPress) {
-        if (onBar) {
-            const int tab = tabBar()->tabAt(mouse->position().toPoint());
-            if (tab >= 0 && tab != model_.Tab() && model_.TabEnabled(tab))
-                Guarded([&] { model_.SetTab(tab); });
-        }
-        Guarded([&] { model_.RaiseMouseDown(button, shift, x, y); });
-    } else {
+    if (event->type() == QEvent::MouseButtonPress)
+        Guarded([&] { UserPressTab(model_, tab, button, shift, x, y); });
+    else
         Guarded([&] { model_.RaiseMouseUp(button, shift, x, y); });
-    }
-    // The strip changes tab only through the model.
     return onBar;
-}
-
-void TabView::dragEnterEvent(QDragEnterEvent* event) {
-    int effect = kDropEffectNone;
-    Guarded([&] { effect = model_.RaiseDragOver(DragDataOf(event->mimeData())); });
-    if (effect == kDropEffectNone) {
-        event->ignore();
-        return;
-    }
-    event->setDropAction(effect == kDropEffectMove ? Qt::MoveAction : Qt::CopyAction);
-    event->accept();
-}
-
-void TabView::dragMoveEvent(QDragMoveEvent* event) {
-    event->accept();
-}
-
-void TabView::dropEvent(QDropEvent* event) {
-    const DragData data = DragDataOf(event->mimeData());
-    event->acceptProposedAction();
-    Guarded([&] { model_.RaiseDragDrop(data); });
 }
 
 }  // namespace tarvex::qt

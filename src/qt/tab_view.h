@@ -1,7 +1,6 @@
 #pragma once
-// The tab strip with its pages. A press on a header turns the model to that page first and
-// then raises MouseDown at the header's height, as the desktop's strip does; files dragged
-// over it go to the model's drag events.
+// The tab strip with its pages. A press on the strip is the model's tab press, which turns to
+// the page under the pointer before it reports the press.
 #include <QTabWidget>
 #include <vector>
 
@@ -21,9 +20,6 @@ class TabView : public QTabWidget {
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
-    void dragEnterEvent(QDragEnterEvent* event) override;
-    void dragMoveEvent(QDragMoveEvent* event) override;
-    void dropEvent(QDropEvent* event) override;
 
   private:
     TabControl& model_;

@@ -118,8 +118,7 @@ void ScenarioRun::DoubleClick(const ControlName& name, const std::optional<Spot>
         const int r = RowOf(name, *row, list, list->ListCount());
         UserPressRow(*list, r, kLeftButton, 0);
         UserReleaseRow(*list, r, kLeftButton, 0);
-        list->RaiseMouseDown(kLeftButton, 0, list->Width() / 2, RowMiddle(*list, r));
-        list->RaiseDblClick();
+        UserDoubleClickRow(*list, r, kLeftButton, 0);
         UserReleaseRow(*list, r, kLeftButton, 0);
         return;
     }

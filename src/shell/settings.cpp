@@ -9,6 +9,7 @@
 #include "common/numbers.h"
 #include "common/paths.h"
 #include "common/text.h"
+#include "platform/account_registry.h"
 #include "shell/editor.h"
 #include "shell/forms/frm_mission.h"
 #include "shell/locate_file.h"
@@ -19,10 +20,6 @@ namespace tarvex {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr const char* kUserInfoKey = "Software\\Microsoft\\MS SETUP (ACME)\\User Info";
-constexpr const char* kSimulatorKey =
-    "SOFTWARE\\Microsoft\\microsoft games\\tarvex simulator\\1.00";
 
 std::string CurrentFolder() {
     std::error_code error;
@@ -76,8 +73,8 @@ void ReadFirstRun(Editor& ed) {
     AppSettings& o = ed.options;
     ed.db.DBPath = DefaultDatabasePath();
     o.MapPath = DefaultMapPath();
-    std::string sim =
-        ed.svc.registry.ReadRegistryValue(RegistryRoot::LocalMachine, kSimulatorKey, "path");
+    std::string sim = ed.svc.registry.ReadRegistryValue(RegistryRoot::LocalMachine,
+                                                        kSimulatorRegistryKey, "path");
     if (!sim.empty()) {
         if (!IsPathSeparator(sim.back())) sim += kPathSeparator;
         o.SimPath = sim;
@@ -133,8 +130,8 @@ bool ChangeCurrentFolder(const std::string& folder) {
 void ReadSettings(Editor& ed) {
     AppSettings& o = ed.options;
     o.OldDecimal = UserDecimalSeparator();
-    o.DefName =
-        ed.svc.registry.ReadRegistryValue(RegistryRoot::CurrentUser, kUserInfoKey, "DefName");
+    o.DefName = ed.svc.registry.ReadRegistryValue(RegistryRoot::CurrentUser, kUserInfoRegistryKey,
+                                                  "DefName");
     o.SimPath = GetSetting(ed, "Path");
     ed.shell.FirstRun = o.SimPath.empty();
     if (ed.shell.FirstRun)

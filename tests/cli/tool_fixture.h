@@ -53,7 +53,7 @@ class ToolTest : public ::testing::Test {
     ToolResult Run(const std::vector<std::string>& args) {
         const std::filesystem::path out = folder / "stdout.txt";
         const std::filesystem::path err = folder / "stderr.txt";
-        std::string command = "env HOME=" + Quote(config.string()) +
+        std::string command = "env -u TARVEX_SIM_PATH HOME=" + Quote(config.string()) +
                               " XDG_CONFIG_HOME=" + Quote(config.string()) +
                               " TARVEX_HOME=" + Quote(home) + " " + Quote(TARVEX_MIS);
         for (const std::string& arg : args)

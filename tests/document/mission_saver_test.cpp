@@ -1,6 +1,6 @@
 #include "document/mission_saver.h"
 #include "common/error.h"
-#include "document/atomic_file_writer.h"
+#include "common/atomic_file_writer.h"
 #include "shell/forms/frm_mission.h"
 #include "shell/forms/frm_msg_screen.h"
 #include "shell/forms/mdi_mission_ed.h"

@@ -11,6 +11,7 @@
 #include "ground/mission_layouts.h"
 #include "refdata/reference_lookups.h"
 #include "refdata/shared_lookup.h"
+#include "shell/controls/user_gestures.h"
 
 namespace tarvex {
 namespace {
@@ -255,12 +256,11 @@ class LayoutRecordDeletionTest : public MissionLayoutsTest {
         Place("My Flak", 3000, 1000);
         Press("My Flak");
     }
-    // A press and release on a row of the landscape list.
+    // A press and release on a row of the landscape list, as the user's hands give them.
     void Press(const std::string& name) {
         ListBox& list = frm.lstGrnUnits;
-        list.RaiseMouseDown(kLeftButton, 0, 10, 10);
-        list.SetListIndex(list.FindRow(name));
-        list.RaiseMouseUp(kLeftButton, 0, 10, 10);
+        UserPressRow(list, list.FindRow(name), kLeftButton, 0);
+        UserReleaseRow(list, list.FindRow(name), kLeftButton, 0);
     }
 };
 

@@ -1,7 +1,8 @@
 # Fails when a lower layer of the core includes a higher one. The lower layers know nothing of
 # the Editor, its handlers or the skin: the control models, the SQLite classes, the mission
-# arrays with their file text and safe writer, the projection and the layout transform. They
-# may include the standard library, the engine, common/, platform/ and one another.
+# arrays with their file text, the projection and the layout transform. They may include the
+# standard library, the engine, common/ (the safe writer of files among it), platform/ and one
+# another.
 #
 #   cmake -DSRC=<src folder> -P check_layers.cmake
 if(NOT SRC)
@@ -15,7 +16,7 @@ set(_lower_globs
     refdata/field_value.* refdata/sql_tokens.* refdata/sql_translation.* refdata/transaction.*
     refdata/sql_parameters.*
     document/mission.h document/checked_array.h document/mis_text.* document/coord_text.*
-    document/file_text.h document/atomic_file_writer.* document/unit_placement.*
+    document/file_text.h document/unit_placement.*
     maps/map_projection.* maps/map_catalogue.h maps/great_circle.*
     ground/layout_transform.*)
 

@@ -7,11 +7,13 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDragEnterEvent>
 #include <QFileInfo>
 #include <QImage>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QProcess>
 #include <QRadioButton>
 #include <QScrollArea>
@@ -20,16 +22,25 @@
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QTest>
+#include <QUrl>
+#include <filesystem>
+#include <functional>
+#include <stdexcept>
 #include <vector>
 
+#include "app/scratch_editor.h"
+#include "common/error.h"
 #include "ground/layout_lists.h"
 #include "platform/scripted_platform.h"
-#include "qt/binders.h"
+#include "qt/binding.h"
 #include "qt/editor_session.h"
 #include "qt/editor_window.h"
 #include "qt/form_view.h"
 #include "qt/services.h"
+#include "qt/widget_factory.h"
 #include "refdata/recordset.h"
+#include "scenario/scenario_run.h"
+#include "scenario/scenario_script.h"
 #include "shell/forms/frm_aircraft.h"
 #include "shell/forms/frm_mission.h"
 #include "shell/forms/mdi_mission_ed.h"
@@ -37,6 +48,8 @@
 
 namespace tarvex::qt {
 namespace {
+
+namespace fs = std::filesystem;
 
 class SkinTest : public ::testing::Test, public ScriptedServices {
   protected:
@@ -260,6 +273,38 @@ TEST_F(SkinTest, TypingReachesTheTextBoxAndKeepsTheCaret) {
     EXPECT_EQ(changes, 6);
 }
 
+// Typing and the keys the core answers share one caret with the selection the widget makes
+// itself (Shift and an arrow), in a line and in a box of several lines.
+TEST_F(SkinTest, TypingAndTheWidgetsOwnSelectionShareOneCaret) {
+    session->ShowTab(0);
+    QApplication::processEvents();
+    const struct {
+        const char* name;
+        Qt::Key lineBreak;
+        const char* text;
+    } cases[] = {
+        {"txtType", Qt::Key_Space, "ASweep X"},
+        {"txtSummary", Qt::Key_Return, "Sweep\r\nAX"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        auto* box = dynamic_cast<TextBox*>(session->ed().FrmMission.FindControl(c.name));
+        QWidget* widget = Widget(c.name);
+        ASSERT_TRUE(box && widget);
+        box->SetText("");
+        widget->setFocus();
+        QTest::keyClicks(widget, "Sweep");
+        QTest::keyClick(widget, c.lineBreak);
+        QTest::keyClicks(widget, "now");
+        for (int k = 0; k < 3; ++k)
+            QTest::keyClick(widget, Qt::Key_Left, Qt::ShiftModifier);
+        QTest::keyClicks(widget, "X");
+        QTest::keyClick(widget, Qt::Key_Home);
+        QTest::keyClicks(widget, "A");
+        EXPECT_EQ(box->Text(), c.text);
+    }
+}
+
 TEST_F(SkinTest, ClicksOnButtonsGoThroughTheModels) {
     auto& frm = session->ed().FrmMission;
     session->ShowTab(1);
@@ -430,6 +475,89 @@ TEST_F(SkinTest, DoubleClickEntersTheLayoutEditorWhoseSpinBoxesReachTheModel) {
     EXPECT_LE(view->width(), Widget("lstGrnUnits")->x());
 }
 
+// The pilots of the Formations tab as the form shows them: the list's selection and what its
+// handlers made of it.
+std::string PilotsShown(Editor& ed) {
+    const auto& frm = ed.FrmMission;
+    std::string shown = "tab " + std::to_string(frm.SSTab1.Tab()) + ", group " +
+                        std::to_string(frm.lstGroupName.ListIndex()) + ", pilots";
+    for (int row : frm.lstPilotName.SelectedRows())
+        shown += " " + std::to_string(row);
+    shown += ", focus " + std::to_string(frm.lstPilotName.ListIndex()) + ", anchor " +
+             std::to_string(frm.lstPilotName.AnchorIndex()) + ", player " +
+             (frm.chkPlayer.Enabled() ? "enabled" : "disabled");
+    return shown;
+}
+
+// One gesture both ways: a press with Shift on the pilots, by the user's hands on the widgets
+// and by a scenario's lines on a headless editor, leaves the form the same.
+TEST_F(SkinTest, AScenarioDoesWhatTheUsersHandsDo) {
+    const std::string mission = TARVEX_SOURCE_DIR "/tests/data/missions/channel_sweep.mis";
+    dialogs.QueueOpen(mission);
+    Action("mnuOpen")->trigger();
+    QTabBar* bar = qobject_cast<QTabWidget*>(Widget("SSTab1"))->tabBar();
+    QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(1).center());
+    QApplication::processEvents();
+    const auto press = [&](const char* name, int row, Qt::KeyboardModifiers keys) {
+        auto* list = qobject_cast<QListWidget*>(Widget(name));
+        ASSERT_NE(list, nullptr);
+        ASSERT_GT(list->count(), row);
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, keys,
+                          list->visualItemRect(list->item(row)).center());
+    };
+    press("lstGroupName", 0, {});
+    press("lstPilotName", 1, {});
+    press("lstPilotName", 0, Qt::ShiftModifier);
+
+    const fs::path source = TARVEX_SOURCE_DIR;
+    ScratchEditor scratch({{source / "data/refdb/schema.sql", source / "data/refdb/seed.sql"},
+                           {},
+                           source / "data/maps",
+                           false},
+                          "both-ways");
+    const scenario::Script script = scenario::ParseScenario(
+        "open " + mission +
+            "\ntab 1\nselect lstGroupName 0\nselect lstPilotName 1\nselect lstPilotName 0 "
+            "shift\n",
+        {});
+    ASSERT_TRUE(script.errors.empty()) << script.errors[0].message;
+    scenario::ScenarioRun run(scratch);
+    const auto failure = run.Run(script);
+    ASSERT_FALSE(failure) << failure->line << ": " << failure->message;
+
+    EXPECT_EQ(PilotsShown(session->ed()), PilotsShown(scratch.ed()));
+    EXPECT_EQ(PilotsShown(session->ed()),
+              "tab 1, group 0, pilots 0 1, focus 0, anchor 1, player disabled");
+}
+
+// A failure that no handler caught ends in the program's error box, and the editor goes on.
+TEST_F(SkinTest, AFailureThatEscapesAHandlerEndsInTheErrorBox) {
+    Label& caption = session->ed().FrmMission.lblTitleCaption;
+    ASSERT_FALSE(caption.MouseDown);
+    std::function<void()> fail;
+    caption.MouseDown.Connect([&](int, int, float, float) { fail(); });
+    session->ShowTab(0);
+    QApplication::processEvents();
+    const struct {
+        std::function<void()> fail;
+        const char* text;
+    } cases[] = {
+        {[] { Raise(kErrSubscript); },
+         "Error # 9 was generated by Tarvex Mission Editor\nSubscript out of range"},
+        {[] { throw std::runtime_error("no such row"); },
+         "Error # 5 was generated by Tarvex Mission Editor\nno such row"},
+    };
+    for (const auto& c : cases) {
+        fail = c.fail;
+        const size_t before = dialogs.messages.size();
+        QTest::mouseClick(Widget("lblTitleCaption"), Qt::LeftButton);
+        ASSERT_EQ(dialogs.messages.size(), before + 1);
+        EXPECT_EQ(dialogs.messages.back().text, c.text);
+        EXPECT_EQ(dialogs.messages.back().title, "Error");
+        EXPECT_EQ(dialogs.messages.back().icon, MsgIcon::Critical);
+    }
+}
+
 TEST_F(SkinTest, OffsetsWindowOpensOnTopBesideTheEditorAndItsCellsReachTheDatabase) {
     Editor& ed = session->ed();
     auto& frm = ed.FrmMission;
@@ -468,6 +596,26 @@ TEST_F(SkinTest, OffsetsWindowOpensOnTopBesideTheEditorAndItsCellsReachTheDataba
     rs.MoveFirst();
     EXPECT_DOUBLE_EQ(rs.Fields(0).Double(), 0.5);
     EXPECT_EQ(grid->item(0, 4)->text(), "1640.4");
+}
+
+// Files dragged over a control that listens for them reach its model, which takes them or
+// not.
+TEST_F(SkinTest, FilesDraggedOverAButtonReachItsModel) {
+    FormView* records = session->window().FormWindow("frmAircraft");
+    ASSERT_NE(records, nullptr);
+    QWidget* add = records->WidgetOf("cmdAdd");
+    ASSERT_TRUE(add && add->acceptDrops());
+    for (const bool files : {true, false}) {
+        QMimeData mime;
+        if (files)
+            mime.setUrls({QUrl::fromLocalFile("/tmp/Spitfire.air")});
+        else
+            mime.setText("Spitfire");
+        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction | Qt::MoveAction, &mime, Qt::LeftButton,
+                              {});
+        QApplication::sendEvent(add, &enter);
+        EXPECT_EQ(enter.isAccepted(), files);
+    }
 }
 
 TEST(SkinServices, FileFiltersTakeQtsForm) {

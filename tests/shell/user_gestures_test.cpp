@@ -78,8 +78,11 @@ TEST(UserGesturesTest, ListPressSelectsBeforeItReportsThePress) {
     UserReleaseRow(list, 3, kLeftButton, 0);
     UserPressRow(list, 0, kRightButton, 0);
     UserMoveOverRow(list, 1, 0, 0);
+    // A press below the last row selects nothing.
+    UserPressRow(list, -1, kLeftButton, 0, 10, 5000);
     EXPECT_EQ(log, (std::vector<std::string>{"Click 2", "Down 1 at row 2 below", "Click 3",
-                                             "Move 1 3", "Up", "Down 2 at row 3", "Move 0 3"}));
+                                             "Move 1 3", "Up", "Down 2 at row 3", "Move 0 3",
+                                             "Down 1 at row 3 below"}));
 }
 
 TEST(UserGesturesTest, TabPressShowsAnEnabledPageBeforeItReportsThePress) {
@@ -93,10 +96,11 @@ TEST(UserGesturesTest, TabPressShowsAnEnabledPageBeforeItReportsThePress) {
     UserPressTab(strip, 3, kLeftButton, 0, 100, 120);
     UserPressTab(strip, 2, kLeftButton, 0, 100, 120);
     UserPressTab(strip, 3, kLeftButton, 0, 100, 120);
-    // Only the left button turns the page.
+    // Only the left button turns the page, and only on the headers.
     UserPressTab(strip, 1, kRightButton, 0, 100, 120);
+    UserPressTab(strip, 1, kLeftButton, 0, 100, strip.TabHeight() + 1);
     EXPECT_EQ(log, (std::vector<std::string>{"Click from 0", "Down on 3", "Down on 3", "Down on 3",
-                                             "Down on 3"}));
+                                             "Down on 3", "Down on 3"}));
 }
 
 // Each key: KeyDown, KeyPress, the change, KeyUp; a handler may swallow the key or the
@@ -138,8 +142,13 @@ TEST(UserGesturesTest, KeysEditTheTextOrMoveTheSelection) {
     } texts[] = {
         {"back at the end", "abc", {end, kKeyBack}, "ab"},
         {"delete at the start", "abc", {home, kKeyDelete}, "bc"},
-        {"back takes a line break whole", "a\r\nb", {end, kKeyLeft, kKeyBack}, "ab"},
+        {"back takes a line break whole", "a\r\nb", {end, kKeyRight, kKeyBack}, "ab"},
         {"return in a multi-line box", "ab", {end, kKeyReturn}, "ab\r\n"},
+        {"right passes a line break whole, home stays on the line",
+         "ab\r\ncd",
+         {kKeyRight, kKeyRight, kKeyRight, home, kKeyBack},
+         "abcd"},
+        {"a character of two bytes goes whole", "\xC3\xA9x", {end, kKeyLeft, kKeyBack}, "x"},
     };
     for (const auto& c : texts) {
         SCOPED_TRACE(c.what);
@@ -172,6 +181,19 @@ TEST(UserGesturesTest, KeysEditTheTextOrMoveTheSelection) {
     UserPressKey(list, end, 0);
     EXPECT_EQ(list.ListIndex(), 2);
 
+    // A closed list: an arrow is the user's choice of the next row.
+    ComboBox closed;
+    for (const char* row : {"a", "b"})
+        closed.AddItem(row);
+    closed.SetStyle(kComboDropDownList);
+    std::vector<std::string> events;
+    closed.Click.Connect([&] { events.push_back("Click " + closed.Text()); });
+    closed.UserPick.Connect([&] { events.push_back("UserPick"); });
+    UserPressKey(closed, kKeyDown, 0);
+    UserPressKey(closed, kKeyDown, 0);
+    UserPressKey(closed, kKeyDown, 0);
+    EXPECT_EQ(events, (std::vector<std::string>{"Click a", "UserPick", "Click b", "UserPick"}));
+
     // An open list: the arrows move the highlight, Return takes it.
     ComboBox combo;
     for (const char* row : {"a", "b", "c"})
@@ -185,6 +207,46 @@ TEST(UserGesturesTest, KeysEditTheTextOrMoveTheSelection) {
     EXPECT_EQ(combo.Text(), "b");
     EXPECT_EQ(picks, 1);
     EXPECT_FALSE(combo.DroppedDown());
+}
+
+// The keys the skin hands to the core are exactly those the core answers: a key that the
+// core says it answers changes the control, and one it leaves to the desktop changes nothing.
+TEST(UserGesturesTest, KeysAnsweredAreKeysThatChangeTheControl) {
+    const int home = KeyCodeOfName("Home");
+    const int pageDown = KeyCodeOfName("PageDown");
+    const struct {
+        const char* what;
+        int key, shift;
+        bool answered;
+    } cases[] = {
+        {"Back", kKeyBack, 0, true},
+        {"Delete", kKeyDelete, 0, true},
+        {"Home", home, 0, true},
+        {"Left", kKeyLeft, 0, true},
+        {"Down", kKeyDown, 0, true},
+        {"Return", kKeyReturn, 0, true},
+        {"Shift+Left", kKeyLeft, kShiftMask, false},
+        {"Page Down", pageDown, 0, false},
+        {"Tab", kKeyTab, 0, false},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        TextBox box;
+        box.SetMultiLine(true);
+        box.SetText("ab");
+        box.SetSelStart(1);
+        ListBox list;
+        Rows(list, 3).SetListIndex(1);
+        const bool boxAnswers = KeyHasResponse(box, c.key, c.shift);
+        const bool listAnswers = KeyHasResponse(list, c.key, c.shift);
+        UserPressKey(box, c.key, c.shift);
+        UserPressKey(list, c.key, c.shift);
+        const bool boxChanged = box.Text() != "ab" || box.SelStart() != 1;
+        const bool listChanged = list.ListIndex() != 1;
+        EXPECT_EQ(boxAnswers || listAnswers, c.answered);
+        EXPECT_EQ(boxAnswers, boxChanged);
+        EXPECT_EQ(listAnswers, listChanged);
+    }
 }
 
 }  // namespace

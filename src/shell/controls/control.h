@@ -237,11 +237,12 @@ class Control : public Component {
     // RaiseGotFocus / RaiseLostFocus.
     void SetFocus() { Notify(Aspect::Focus); }
 
-    // Input from the skin (or a test). Each runs the matching event if one is wired.
-    // A press and release of the left button go: RaiseMouseDown, then the control's own
-    // change (UserClick on buttons, check boxes and option buttons), then RaiseMouseUp, so
-    // that a MouseUp handler sees the new value. A list is the exception: it selects the row
-    // under the pointer first, then raises MouseDown (and, in a drag, selects the row reached
+    // Input from the skin (or a test). Each runs the matching event if one is wired; the
+    // user's gestures that take several of these steps are in user_gestures.h.
+    // A press and release of the left button on a button, check box or option button go:
+    // RaiseMouseDown, the control's own change (UserClick), then RaiseMouseUp, so that a
+    // MouseUp handler sees the new value. A list is the other way round: it selects the row
+    // under the pointer first, then raises MouseDown (and in a drag selects the row reached
     // before each MouseMove), so that those handlers read the pressed row from ListIndex.
     virtual void UserClick() { RaiseClick(); }
     void RaiseClick() const;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cstdlib>
 #include <string>
 #include <vector>
 
@@ -28,6 +29,10 @@ std::vector<int> RowsBetween(int a, int b) {
     for (int r = std::min(a, b); r <= std::max(a, b); ++r)
         rows.push_back(r);
     return rows;
+}
+
+bool IsRow(const ListBox& list, int row) {
+    return row >= 0 && row < list.ListCount();
 }
 
 void SelectByPress(ListBox& list, int row, int shift) {
@@ -62,6 +67,29 @@ void SelectByPress(ListBox& list, int row, int shift) {
         default:
             list.SetListIndex(row);
     }
+}
+
+// The caret's next stop after or before `at`: a line break of a multi-line box and a character
+// of several bytes are passed whole.
+int CaretStep(const std::string& text, int at, bool forward) {
+    const int size = static_cast<int>(text.size());
+    const auto continuation = [&](int i) {
+        return (static_cast<unsigned char>(text[i]) & 0xC0) == 0x80;
+    };
+    if (forward) {
+        if (at >= size) return size;
+        if (text.compare(at, 2, "\r\n") == 0) return at + 2;
+        int next = at + 1;
+        while (next < size && continuation(next))
+            ++next;
+        return next;
+    }
+    if (at <= 0) return 0;
+    if (at >= 2 && text.compare(at - 2, 2, "\r\n") == 0) return at - 2;
+    int previous = at - 1;
+    while (previous > 0 && continuation(previous))
+        --previous;
+    return previous;
 }
 
 // What a text box or an editable combo does with keys, whichever it is.
@@ -102,7 +130,9 @@ class TextTarget {
             if (replaceCombo_) {
                 combo_->SetText("");
             } else if (before && !combo_->Text().empty()) {
-                combo_->SetText(combo_->Text().substr(0, combo_->Text().size() - 1));
+                const std::string& text = combo_->Text();
+                combo_->SetText(
+                    text.substr(0, CaretStep(text, static_cast<int>(text.size()), false)));
             }
             replaceCombo_ = false;
             return;
@@ -110,34 +140,37 @@ class TextTarget {
         if (!box_ || box_->Locked()) return;
         if (box_->SelLength() == 0) {
             const int start = box_->SelStart();
-            const int size = static_cast<int>(box_->Text().size());
-            if (before ? start == 0 : start >= size) return;
-            // A line break of a multi-line box goes as one.
-            const bool pair = before ? start >= 2 && box_->Text().compare(start - 2, 2, "\r\n") == 0
-                                     : box_->Text().compare(start, 2, "\r\n") == 0;
-            const int count = pair ? 2 : 1;
-            box_->SetSelStart(before ? start - count : start);
-            box_->SetSelLength(count);
+            const int other = CaretStep(box_->Text(), start, !before);
+            if (other == start) return;
+            box_->SetSelStart(std::min(start, other));
+            box_->SetSelLength(std::abs(other - start));
         }
         box_->SetSelText("");
     }
 
+    // Home and End go to the ends of the caret's line.
     void MoveCaret(int keyCode) {
         if (!box_) return;
-        const int size = static_cast<int>(box_->Text().size());
+        const std::string& text = box_->Text();
         const int at = box_->SelStart();
         switch (keyCode) {
-            case kKeyHome:
-                box_->SetSelStart(0);
+            case kKeyHome: {
+                const size_t lineBreak = at < 2 ? std::string::npos : text.rfind("\r\n", at - 2);
+                box_->SetSelStart(lineBreak == std::string::npos ? 0
+                                                                 : static_cast<int>(lineBreak) + 2);
                 break;
-            case kKeyEnd:
-                box_->SetSelStart(size);
+            }
+            case kKeyEnd: {
+                const size_t lineBreak = text.find("\r\n", at);
+                box_->SetSelStart(lineBreak == std::string::npos ? static_cast<int>(text.size())
+                                                                 : static_cast<int>(lineBreak));
                 break;
+            }
             case kKeyLeft:
-                box_->SetSelStart(std::max(0, at - 1));
+                box_->SetSelStart(CaretStep(text, at, false));
                 break;
             case kKeyRight:
-                box_->SetSelStart(std::min(size, at + box_->SelLength() + 1));
+                box_->SetSelStart(CaretStep(text, at + box_->SelLength(), true));
                 break;
             default:
                 break;
@@ -205,6 +238,10 @@ void RespondToKey(Control& control, int keyCode, TextTarget& text) {
     if (keyCode != kKeyUp && keyCode != kKeyDown && keyCode != kKeyHome && keyCode != kKeyEnd)
         return;
     const int row = MovedRow(keyCode, list->ListIndex(), list->ListCount());
+    if (auto* closed = dynamic_cast<ComboBox*>(&control)) {
+        if (row != closed->ListIndex()) closed->UserChoose(row);
+        return;
+    }
     auto* box = dynamic_cast<ListBox*>(&control);
     if (box && box->MultiSelect() != kMultiSelectNone) {
         box->SetSelection({row}, row);
@@ -224,7 +261,7 @@ void PressKey(Control& control, int keyCode, int shift, char character, TextTarg
     if (typed != 0) typed = control.RaiseKeyPress(typed);
     if (typed >= 32 && typed < 127) {
         text.Insert(std::string(1, static_cast<char>(typed)));
-    } else if (typed != 0 || character == 0) {
+    } else if ((typed != 0 || character == 0) && KeyHasResponse(control, keyCode, shift)) {
         RespondToKey(control, keyCode, text);
     }
     if (keyCode != 0) control.RaiseKeyUp(keyCode, shift);
@@ -263,12 +300,20 @@ float RowMiddle(const ListBox& list, int row) {
 }
 
 void UserPressRow(ListBox& list, int row, int button, int shift) {
-    if (button == kLeftButton) SelectByPress(list, row, shift);
-    list.RaiseMouseDown(button, shift, list.Width() / 2, RowMiddle(list, row));
+    UserPressRow(list, row, button, shift, list.Width() / 2, RowMiddle(list, row));
+}
+
+void UserPressRow(ListBox& list, int row, int button, int shift, float x, float y) {
+    if (button == kLeftButton && IsRow(list, row)) SelectByPress(list, row, shift);
+    list.RaiseMouseDown(button, shift, x, y);
 }
 
 void UserMoveOverRow(ListBox& list, int row, int button, int shift) {
-    if (button == kLeftButton) {
+    UserMoveOverRow(list, row, button, shift, list.Width() / 2, RowMiddle(list, row));
+}
+
+void UserMoveOverRow(ListBox& list, int row, int button, int shift, float x, float y) {
+    if (button == kLeftButton && IsRow(list, row)) {
         if (list.MultiSelect() == kMultiSelectNone) {
             list.SetListIndex(row);
         } else if (list.MultiSelect() == kMultiSelectExtended) {
@@ -277,18 +322,66 @@ void UserMoveOverRow(ListBox& list, int row, int button, int shift) {
             list.SetAnchorIndex(anchor);
         }
     }
-    list.RaiseMouseMove(button, shift, list.Width() / 2, RowMiddle(list, row));
+    list.RaiseMouseMove(button, shift, x, y);
 }
 
 void UserReleaseRow(ListBox& list, int row, int button, int shift) {
-    list.RaiseMouseUp(button, shift, list.Width() / 2, RowMiddle(list, row));
+    UserReleaseRow(list, row, button, shift, list.Width() / 2, RowMiddle(list, row));
+}
+
+void UserReleaseRow(ListBox& list, int, int button, int shift, float x, float y) {
+    list.RaiseMouseUp(button, shift, x, y);
+}
+
+void UserDoubleClickRow(ListBox& list, int row, int button, int shift) {
+    UserDoubleClickRow(list, row, button, shift, list.Width() / 2, RowMiddle(list, row));
+}
+
+void UserDoubleClickRow(ListBox& list, int, int button, int shift, float x, float y) {
+    list.RaiseMouseDown(button, shift, x, y);
+    list.RaiseDblClick();
 }
 
 void UserPressTab(TabControl& strip, int tab, int button, int shift, float x, float y) {
     if (button == kLeftButton && tab >= 0 && tab < strip.Tabs() && tab != strip.Tab() &&
-        strip.TabEnabled(tab))
+        strip.TabEnabled(tab) && y <= strip.TabHeight())
         strip.SetTab(tab);
     strip.RaiseMouseDown(button, shift, x, y);
+}
+
+bool TakesTyping(const Control& control) {
+    if (dynamic_cast<const TextBox*>(&control)) return true;
+    const auto* combo = dynamic_cast<const ComboBox*>(&control);
+    return combo && combo->Style() != kComboDropDownList;
+}
+
+bool KeyHasResponse(const Control& control, int keyCode, int shift) {
+    if (shift != 0) return false;
+    if (TakesTyping(control)) {
+        switch (keyCode) {
+            case kKeyBack:
+            case kKeyDelete:
+            case kKeyHome:
+            case kKeyEnd:
+            case kKeyLeft:
+            case kKeyRight:
+                return true;
+            case kKeyReturn:
+                if (const auto* box = dynamic_cast<const TextBox*>(&control);
+                    box && box->MultiLine())
+                    return true;
+                break;
+            default:
+                break;
+        }
+    }
+    const auto* combo = dynamic_cast<const ComboBox*>(&control);
+    if (combo && combo->DroppedDown())
+        return keyCode == kKeyUp || keyCode == kKeyDown || keyCode == kKeyReturn ||
+               keyCode == kKeyEscape;
+    const auto* list = dynamic_cast<const ListControl*>(&control);
+    return list && list->ListCount() > 0 &&
+           (keyCode == kKeyUp || keyCode == kKeyDown || keyCode == kKeyHome || keyCode == kKeyEnd);
 }
 
 void UserPressKey(Control& control, int keyCode, int shift) {

@@ -1,4 +1,4 @@
-#include "document/atomic_file_writer.h"
+#include "common/atomic_file_writer.h"
 
 #include <atomic>
 #include <cerrno>

@@ -1,23 +1,21 @@
 #pragma once
-// The widgets that mirror the control models. Each binding listens to its model and updates
-// the widget with the widget's signals blocked, and forwards the user's input to the model's
-// setters and Raise* functions, so that a user's click and code's selection are one event.
+// The common part of every widget that mirrors a control model. A binding listens to its model
+// and updates the widget with the widget's signals blocked, and forwards the user's input to
+// the model's user entries, so that a user's click and code's selection are one event.
 #include <QColor>
 #include <QObject>
 #include <QPointF>
 #include <QPointer>
 #include <QSize>
-#include <QString>
 #include <QWidget>
+#include <exception>
 #include <functional>
+#include <set>
 
-#include "shell/controls/controls.h"
-#include "shell/controls/data_grid.h"
+#include "shell/controls/control.h"
 
-class QMenuBar;
-class QMimeData;
+class QKeyEvent;
 class QScrollArea;
-class QTimer;
 
 namespace tarvex::qt {
 
@@ -33,19 +31,13 @@ inline float Twips(double pixels) {
 }
 
 QColor ToQColor(Colour colour);
-// A caption without its access-key marks, for widgets that don't show them.
-QString PlainCaption(const std::string& caption);
-// The desktop's key code of a Qt key; 0 for keys the program never tests.
-int KeyCodeOf(int qtKey);
 
-// The local files a drag carries.
-DragData DragDataOf(const QMimeData* mime);
-
-// Runs a call into the core; a failure that escapes its handlers is reported on the console
-// instead of tearing down the event loop.
+// Runs a call into the core. A failure that escapes the handlers goes to the report the
+// session set, which shows the program's error box; it never tears down the event loop.
 void Guarded(const std::function<void()>& call);
+// Where Guarded sends a failure; without one it is written to the console.
+void SetFailureReport(std::function<void(const std::exception&)> report);
 
-// The common part of every binding: geometry, look, focus, mouse, keys and focus events.
 class ControlBinding : public QObject {
     Q_OBJECT
   public:
@@ -75,34 +67,26 @@ class ControlBinding : public QObject {
     bool Syncing() const { return syncing_ > 0; }
     // Watches mouse events of a child that covers the widget (a viewport, a line edit).
     void WatchChild(QWidget* child);
+    // The point of a mouse event on `target` (the widget or a watched child) in the model's map
+    // units.
+    QPointF MapUnitsAt(const QWidget* target, QPointF position) const;
 
   private:
     void OnModel(Aspect aspect);
+    bool KeyPressed(QKeyEvent* key);
+    bool KeyReleased(QKeyEvent* key);
     Control& model_;
     QPointer<QWidget> widget_;
     QPointF origin_;
     int listener_ = 0;
     int syncing_ = 0;
+    // Keys whose press went through a whole gesture, release included.
+    std::set<int> keysDone_;
     friend class SyncScope;
 };
-
-// Creates the widget for a control model under parent and binds it. Picture surfaces, grids,
-// tab strips and the rest each get their kind of widget; nullptr for models that are not
-// shown (data sources).
-QWidget* CreateControlWidget(Control& control, QWidget* parent, QPointF origin);
 
 // The control is seen through a scrolled view placed at placeSize (pixels): the view follows the
 // control's rank among the view's siblings, and shows the control whole while it is in front.
 void ShowThroughScrolledView(QWidget* control, QScrollArea* view, QSize placeSize);
-
-// A real timer behind a timer model: it runs while the model runs and fires the model's event.
-QTimer* BindTimer(TimerControl& timer, QObject* owner);
-
-// The menu bar from the entries' tree: captions with their access keys, shortcuts, check
-// marks, enabled and visible states; a chosen entry goes to its UserClick.
-void BuildMenuBar(QMenuBar* bar, const std::vector<MenuItem*>& entries);
-
-// The widget of a tab strip's page n; nullptr when the widget is no tab strip.
-QWidget* TabPage(QWidget* tabWidget, int page);
 
 }  // namespace tarvex::qt
