@@ -143,7 +143,8 @@ void ControlBinding::WatchChild(QWidget* child) {
 QPointF ControlBinding::MapUnitsAt(const QWidget* target, QPointF position) const {
     const QPointF p =
         target == widget_ ? position : QPointF(target->mapTo(widget_, position.toPoint()));
-    return QPointF(Twips(p.x()), Twips(p.y()));
+    const double scale = Scale();
+    return QPointF(Twips(p.x(), scale), Twips(p.y(), scale));
 }
 
 void ControlBinding::OnModel(Aspect aspect) {
@@ -158,6 +159,13 @@ void ControlBinding::SyncAll() {
     for (Aspect aspect : {Aspect::Rows, Aspect::Text, Aspect::Value, Aspect::Selection,
                           Aspect::Drawing, Aspect::Appearance, Aspect::Geometry})
         Sync(aspect);
+}
+
+void ControlBinding::SyncScale() {
+    if (!widget_) return;
+    SyncScope scope(*this);
+    Sync(Aspect::Geometry);
+    widget_->update();
 }
 
 void ControlBinding::Sync(Aspect aspect) {
@@ -182,9 +190,11 @@ void ShowThroughScrolledView(QWidget* control, QScrollArea* view, QSize placeSiz
 }
 
 void ControlBinding::SyncGeometry() {
-    const int w = std::max(0, Px(model_.Width()));
-    const int h = std::max(0, Px(model_.Height()));
-    widget_->setGeometry(Px(model_.Left() - origin_.x()), Px(model_.Top() - origin_.y()), w, h);
+    const double scale = Scale();
+    const int w = std::max(0, Px(model_.Width(), scale));
+    const int h = std::max(0, Px(model_.Height(), scale));
+    widget_->setGeometry(Px(model_.Left() - origin_.x(), scale),
+                         Px(model_.Top() - origin_.y(), scale), w, h);
     StackByRank(widget_->parentWidget());
     // A control brought to the front shows whole, as far as there is room, over its
     // neighbours; otherwise it is seen through its view at the view's own place.

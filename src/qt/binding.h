@@ -12,6 +12,7 @@
 #include <functional>
 #include <set>
 
+#include "qt/view_scale.h"
 #include "shell/controls/control.h"
 
 class QKeyEvent;
@@ -19,15 +20,17 @@ class QScrollArea;
 
 namespace tarvex::qt {
 
-// Map units per logical pixel: 1440 to the inch at 96 dots per inch. Qt scales logical pixels
-// on screens of other densities.
+// Map units per logical pixel at the normal scale: 1440 to the inch at 96 dots per inch. Qt
+// scales logical pixels on screens of other densities; a form view may scale its widgets
+// further (scale 2: 7.5 map units to the pixel).
 constexpr double kTwipsPerPixel = 15.0;
 
-inline int Px(double twips) {
-    return static_cast<int>(twips / kTwipsPerPixel + (twips >= 0 ? 0.5 : -0.5));
+inline int Px(double twips, double scale = 1.0) {
+    const double pixels = twips * scale / kTwipsPerPixel;
+    return static_cast<int>(pixels + (pixels >= 0 ? 0.5 : -0.5));
 }
-inline float Twips(double pixels) {
-    return static_cast<float>(pixels * kTwipsPerPixel);
+inline float Twips(double pixels, double scale = 1.0) {
+    return static_cast<float>(pixels * kTwipsPerPixel / scale);
 }
 
 QColor ToQColor(Colour colour);
@@ -50,6 +53,8 @@ class ControlBinding : public QObject {
     void SetOrigin(QPointF origin);
     // Brings the whole widget in line with the model.
     void SyncAll();
+    // Brings the widget's place in line with the model and the scale of its view.
+    void SyncScale();
     // The binding of a widget, if it has one.
     static ControlBinding* Of(const QWidget* widget);
 
@@ -70,6 +75,8 @@ class ControlBinding : public QObject {
     // The point of a mouse event on `target` (the widget or a watched child) in the model's map
     // units.
     QPointF MapUnitsAt(const QWidget* target, QPointF position) const;
+    // Logical pixels per map unit are 1 / kTwipsPerPixel times this.
+    virtual double Scale() const { return ScaleOf(widget_); }
 
   private:
     void OnModel(Aspect aspect);

@@ -30,10 +30,13 @@ class EditorWindow : public QMainWindow {
 
   private:
     void PlaceStatusStrip();
+    // The mission window at the largest scale that fits above the status strip, centred.
+    void FitMissionView();
     Editor& ed_;
     FormView* main_ = nullptr;
     FormView* mission_ = nullptr;
     std::vector<std::unique_ptr<FormView>> windows_;
+    int missionListener_ = 0;
 };
 
 }  // namespace tarvex::qt

@@ -1,6 +1,7 @@
 #include "qt/form_view.h"
 
 #include <QCloseEvent>
+#include <QScreen>
 #include <QScrollArea>
 
 #include "qt/binding.h"
@@ -13,6 +14,10 @@ FormView::FormView(Form& form, QWidget* parent, Mode mode)
     : QWidget(parent), form_(form), mode_(mode) {
     if (mode == Mode::Window) setWindowFlag(Qt::Window);
     setObjectName(QString::fromStdString(form.Name()));
+    SetViewScale(this, scale_);
+    QFont font = this->font();
+    font.setPointSizeF(kPointSize);
+    setFont(font);
     sharedHome_ = new QWidget(this);
     sharedHome_->hide();
 
@@ -28,13 +33,17 @@ FormView::FormView(Form& form, QWidget* parent, Mode mode)
             continue;
         }
         QScrollArea* view = nullptr;
+        const QPointF outerOrigin = origin;
         if (where.IsScrolled()) {
             view = ScrolledView(*control, parentWidget, origin);
             parentWidget = view->widget();
         }
         QWidget* widget = CreateControlWidget(*control, parentWidget, origin);
         if (!widget) continue;
-        if (view) ShowThroughScrolledView(widget, view, view->size());
+        if (view) {
+            views_.push_back({view, widget, control->Home(), outerOrigin});
+            ShowThroughScrolledView(widget, view, view->size());
+        }
         if (holders_.count(parentWidget)) {
             widget->installEventFilter(this);
             parentWidget->resize(widget->geometry().bottomRight().x() + 1,
@@ -79,8 +88,8 @@ QScrollArea* FormView::ScrolledView(const Control& control, QWidget* parent, QPo
     auto* area = new QScrollArea(parent);
     area->setObjectName(QString::fromStdString(control.Name()) + "View");
     area->setFrameShape(QFrame::StyledPanel);
-    area->setGeometry(Px(view.left - origin.x()), Px(view.top - origin.y()), Px(view.width),
-                      Px(view.height));
+    area->setGeometry(Px(view.left - origin.x(), scale_), Px(view.top - origin.y(), scale_),
+                      Px(view.width, scale_), Px(view.height, scale_));
     // The holder grows with the control inside; the control's home is the holder's top left
     // corner.
     auto* holder = new QWidget;
@@ -132,9 +141,42 @@ void FormView::PlaceShared() {
     }
 }
 
+void FormView::SetScale(double scale, QPoint offset) {
+    if (scale == scale_ && offset == offset_) return;
+    const bool rescale = scale != scale_;
+    scale_ = scale;
+    offset_ = offset;
+    if (rescale) {
+        SetViewScale(this, scale_);
+        QFont font = this->font();
+        font.setPointSizeF(kPointSize * scale_);
+        setFont(font);
+        for (const View& view : views_)
+            PlaceView(view);
+        for (const auto& [control, widget] : widgets_)
+            if (ControlBinding* binding = ControlBinding::Of(widget)) binding->SyncScale();
+    }
+    SyncForm();
+}
+
+void FormView::SetCentred(bool centred) {
+    centred_ = centred;
+    placed_ = QRectF(0, 0, -1, -1);
+    SyncForm();
+}
+
+void FormView::PlaceView(const View& view) {
+    const QRect place(Px(view.place.left - view.origin.x(), scale_),
+                      Px(view.place.top - view.origin.y(), scale_), Px(view.place.width, scale_),
+                      Px(view.place.height, scale_));
+    view.area->setGeometry(place);
+    ShowThroughScrolledView(view.control, view.area, place.size());
+}
+
 void FormView::SyncForm() {
     if (mode_ == Mode::Child) {
-        setGeometry(Px(form_.Left()), Px(form_.Top()), Px(form_.Width()), Px(form_.Height()));
+        setGeometry(offset_.x() + Px(form_.Left(), scale_), offset_.y() + Px(form_.Top(), scale_),
+                    Px(form_.Width(), scale_), Px(form_.Height(), scale_));
         setEnabled(form_.Enabled());
         setVisible(form_.Visible());
         return;
@@ -145,8 +187,18 @@ void FormView::SyncForm() {
         top->windowFlags().testFlag(Qt::WindowStaysOnTopHint) != form_.TopMost())
         top->setWindowFlags(form_.TopMost() ? Qt::Tool | Qt::WindowStaysOnTopHint : Qt::Window);
     top->setWindowTitle(QString::fromStdString(form_.Caption()));
-    top->move(Px(form_.Left()), Px(form_.Top()));
-    if (form_.Width() > 0 && form_.Height() > 0) top->resize(Px(form_.Width()), Px(form_.Height()));
+    // The window follows the model's moves; the user's own sizing (a maximised window) stays
+    // until the program places the window again.
+    const QRectF place(form_.Left(), form_.Top(), form_.Width(), form_.Height());
+    if (place != placed_) {
+        placed_ = place;
+        if (form_.Width() > 0 && form_.Height() > 0)
+            top->resize(Px(form_.Width()), Px(form_.Height()));
+        QPoint at(Px(form_.Left()), Px(form_.Top()));
+        if (centred_ && top->screen())
+            at = top->screen()->availableGeometry().center() - top->rect().center();
+        top->move(at);
+    }
     top->setEnabled(form_.Enabled());
     top->setVisible(form_.Visible());
 }

@@ -28,6 +28,15 @@ class FormView : public QWidget {
     QWidget* WidgetOf(const Control& control) const;
     QWidget* WidgetOf(const std::string& name, int index = -1) const;
 
+    // The form was laid out for the desktop's 8-point dialog font at the normal scale.
+    static constexpr double kPointSize = 8.0;
+    // Scales the whole form, text and pictures included (2: twice the normal size); a child
+    // form stands at offset (pixels) from its place in the window.
+    void SetScale(double scale, QPoint offset = {});
+    double Scale() const { return scale_; }
+    // A window that stands in the middle of the screen wherever the form says.
+    void SetCentred(bool centred);
+
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
@@ -37,6 +46,12 @@ class FormView : public QWidget {
         QWidget* widget;
         Container where;
     };
+    struct View {
+        QScrollArea* area;
+        QWidget* control;
+        Place place;
+        QPointF origin;
+    };
     // The widget that holds controls of that container, and the point of the container's
     // coordinates that is the widget's top left.
     QWidget* HolderOf(const Container& where, QPointF& origin);
@@ -45,11 +60,17 @@ class FormView : public QWidget {
     // Controls shown on several pages go to the page that is showing.
     void PlaceShared();
     void SyncForm();
+    void PlaceView(const View& view);
 
     Form& form_;
     Mode mode_;
     std::map<const Control*, QWidget*> widgets_;
     std::vector<Shared> shared_;
+    std::vector<View> views_;
+    double scale_ = 1.0;
+    QPoint offset_;
+    QRectF placed_{0, 0, -1, -1};
+    bool centred_ = false;
     QWidget* sharedHome_ = nullptr;
     std::set<QWidget*> holders_;
     std::vector<TabControl*> strips_;

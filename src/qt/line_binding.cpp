@@ -29,10 +29,10 @@ class LineWidget : public QWidget {
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(QPen(ToQColor(model_.BorderColor()), 1));
-        painter.drawLine(QPointF((model_.X1() - origin.x()) / kTwipsPerPixel,
-                                 (model_.Y1() - origin.y()) / kTwipsPerPixel),
-                         QPointF((model_.X2() - origin.x()) / kTwipsPerPixel,
-                                 (model_.Y2() - origin.y()) / kTwipsPerPixel));
+        const double perTwip = ScaleOf(this) / kTwipsPerPixel;
+        painter.drawLine(
+            QPointF((model_.X1() - origin.x()) * perTwip, (model_.Y1() - origin.y()) * perTwip),
+            QPointF((model_.X2() - origin.x()) * perTwip, (model_.Y2() - origin.y()) * perTwip));
     }
 
   private:

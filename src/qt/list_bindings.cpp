@@ -28,7 +28,7 @@ class RowHeightDelegate : public QStyledItemDelegate {
         : QStyledItemDelegate(parent), model_(model) {}
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
         QSize size = QStyledItemDelegate::sizeHint(option, index);
-        if (model_.RowHeight() > 0) size.setHeight(Px(model_.RowHeight()));
+        if (model_.RowHeight() > 0) size.setHeight(Px(model_.RowHeight(), ScaleOf(option.widget)));
         return size;
     }
 
@@ -80,8 +80,8 @@ class ListBinding : public ControlBinding {
         const int row = list_->indexAt(mouse->position().toPoint()).row();
         const int shift = ShiftOf(mouse->modifiers());
         const int button = ButtonOf(type == QEvent::MouseMove ? mouse->buttons() : mouse->button());
-        const float x = Twips(mouse->position().x());
-        const float y = Twips(mouse->position().y());
+        const float x = Twips(mouse->position().x(), Scale());
+        const float y = Twips(mouse->position().y(), Scale());
         Guarded([&] {
             if (type == QEvent::MouseButtonPress)
                 UserPressRow(model_, row, button, shift, x, y);

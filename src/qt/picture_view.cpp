@@ -4,6 +4,7 @@
 #include <QPainter>
 
 #include "qt/binding.h"
+#include "qt/qt_text.h"
 
 namespace tarvex::qt {
 
@@ -16,6 +17,7 @@ class PictureBinding : public ControlBinding {
 
   protected:
     bool PaintsBackColour() const override { return true; }
+    double Scale() const override { return ControlBinding::Scale() * view_->Zoom(); }
     void Sync(Aspect aspect) override {
         if (aspect == Aspect::Drawing) view_->update();
         ControlBinding::Sync(aspect);
@@ -25,8 +27,16 @@ class PictureBinding : public ControlBinding {
     PictureView* view_;
 };
 
+// Points are painted at the normal scale; the painter scales them to the view's.
 QPointF At(float x, float y) {
     return QPointF(x / kTwipsPerPixel, y / kTwipsPerPixel);
+}
+
+// The widget's font at the normal scale.
+QFont NormalFont(const QWidget* widget) {
+    QFont font = widget->font();
+    font.setPointSizeF(font.pointSizeF() / ScaleOf(widget));
+    return font;
 }
 
 }  // namespace
@@ -35,10 +45,10 @@ PictureView::PictureView(PictureSurface& model, QWidget* parent) : QWidget(paren
     setMouseTracking(true);
     // Text is measured with the font it is painted in.
     model_.measureWidth = [this](const std::string& text) {
-        return Twips(QFontMetricsF(font()).horizontalAdvance(QString::fromStdString(text)));
+        return Twips(QFontMetricsF(NormalFont(this)).horizontalAdvance(Q(text)));
     };
     model_.measureHeight = [this](const std::string&) {
-        return Twips(QFontMetricsF(font()).height());
+        return Twips(QFontMetricsF(NormalFont(this)).height());
     };
 }
 
@@ -48,7 +58,14 @@ PictureView::~PictureView() {
 }
 
 ControlBinding* PictureView::Bind(QPointF origin) {
-    return new PictureBinding(model_, this, origin);
+    binding_ = new PictureBinding(model_, this, origin);
+    return binding_;
+}
+
+void PictureView::SetZoom(double zoom) {
+    if (zoom == zoom_) return;
+    zoom_ = zoom;
+    if (binding_) binding_->SyncScale();
 }
 
 void PictureView::paintEvent(QPaintEvent*) {
@@ -61,6 +78,11 @@ void PictureView::paintEvent(QPaintEvent*) {
     }
     QPainter painter(this);
     if (!IsSystemColour(model_.BackColor())) painter.fillRect(rect(), ToQColor(model_.BackColor()));
+    // Everything below is drawn at the normal scale and magnified whole, text included.
+    const double scale = ScaleOf(this) * zoom_;
+    painter.scale(scale, scale);
+    const QFont font = NormalFont(this);
+    painter.setFont(font);
     const QString picture = QString::fromStdString(model_.Picture());
     if (picture != loaded_) {
         loaded_ = picture;
@@ -80,7 +102,7 @@ void PictureView::paintEvent(QPaintEvent*) {
     }
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setRenderHint(QPainter::TextAntialiasing);
-    const QFontMetricsF metrics(font());
+    const QFontMetricsF metrics(font);
     for (const DrawOp& op : model_.Operations()) {
         QPen pen(ToQColor(op.pen), std::max(1, op.drawWidth));
         painter.setPen(pen);

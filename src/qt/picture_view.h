@@ -16,12 +16,18 @@ class PictureView : public QWidget {
     PictureView(PictureSurface& model, QWidget* parent);
     ~PictureView() override;
     ControlBinding* Bind(QPointF origin);
+    // The view's own magnification over the form's scale: map units, drawing and the model's
+    // size stay as they are.
+    double Zoom() const { return zoom_; }
+    void SetZoom(double zoom);
 
   protected:
     void paintEvent(QPaintEvent* event) override;
 
   private:
     PictureSurface& model_;
+    ControlBinding* binding_ = nullptr;
+    double zoom_ = 1.0;
     QString loaded_;
     QImage image_;
     bool painting_ = false;

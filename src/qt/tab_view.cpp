@@ -74,7 +74,8 @@ bool TabView::eventFilter(QObject* watched, QEvent* event) {
     auto* mouse = static_cast<QMouseEvent*>(event);
     const int button = ButtonOf(mouse->button());
     const int shift = ShiftOf(mouse->modifiers());
-    float x = Twips(mouse->position().x());
+    const double scale = ScaleOf(this);
+    float x = Twips(mouse->position().x(), scale);
     float y;
     int tab = -1;
     if (onBar) {
@@ -82,10 +83,10 @@ bool TabView::eventFilter(QObject* watched, QEvent* event) {
         const double share =
             tabBar()->height() > 0 ? mouse->position().y() / tabBar()->height() : 0;
         y = static_cast<float>(std::clamp(share, 0.0, 1.0) * model_.TabHeight());
-        x = Twips(tabBar()->mapTo(this, mouse->position().toPoint()).x());
+        x = Twips(tabBar()->mapTo(this, mouse->position().toPoint()).x(), scale);
         tab = tabBar()->tabAt(mouse->position().toPoint());
     } else {
-        y = model_.TabHeight() + Twips(mouse->position().y());
+        y = model_.TabHeight() + Twips(mouse->position().y(), scale);
     }
     if (event->type() == QEvent::MouseButtonPress)
         Guarded([&] { UserPressTab(model_, tab, button, shift, x, y); });
