@@ -7,13 +7,16 @@
 #ifndef TARVEX_DEFAULT_INSTALL
 #define TARVEX_DEFAULT_INSTALL "default-install"
 #endif
+#ifndef TARVEX_DATA_FROM_PROGRAM
+#define TARVEX_DATA_FROM_PROGRAM "../share/tarvex"
+#endif
 
 namespace tarvex {
 
 namespace fs = std::filesystem;
 
 std::string InstalledDataFolder(const std::string& programFolder) {
-    return (fs::path(programFolder).parent_path() / "share" / "tarvex").string();
+    return (fs::path(programFolder) / TARVEX_DATA_FROM_PROGRAM).lexically_normal().string();
 }
 
 std::string DefaultInstallFolder() {

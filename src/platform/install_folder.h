@@ -5,8 +5,8 @@
 
 namespace tarvex {
 
-// The data folder of an installation whose programs lie in `programFolder`:
-// <prefix>/bin -> <prefix>/share/tarvex.
+// The data folder of an installation whose programs lie in `programFolder`: for
+// <prefix>/bin, <prefix>/share/tarvex.
 std::string InstalledDataFolder(const std::string& programFolder);
 
 // $TARVEX_HOME when set; else the data folder installed beside the running program when there
