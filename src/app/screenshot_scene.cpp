@@ -1,5 +1,7 @@
 #include "app/screenshot_scene.h"
 
+#include <cstdint>
+
 #include "common/text.h"
 #include "maps/tab_numbers.h"
 #include "maps/tab_selection.h"
@@ -31,9 +33,17 @@ bool NamedMissionLoaded(const Editor& ed, const EditorCommandLine& line) {
     return line.files.empty() || !ed.doc.MissionPath.empty();
 }
 
+void ApplyStartTab(Editor& ed, int tab) {
+    if (tab < 0) return;
+    if (ed.shell.MainWindowLoaded)
+        SelectTab(ed, tab);
+    else
+        ed.options.LastTab = static_cast<std::int16_t>(tab);
+}
+
 std::string PrepareScene(Editor& ed, const EditorCommandLine& line) {
     auto& frm = ed.FrmMission;
-    if (line.tab >= 0) SelectTab(ed, line.tab);
+    ApplyStartTab(ed, line.tab);
     if (line.layoutRow >= 0) {
         if (frm.SSTab1.Tab() != kGroundUnitsTab) SelectTab(ed, kGroundUnitsTab);
         ListBox& layouts = frm.lstGUAdded;

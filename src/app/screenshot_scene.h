@@ -18,6 +18,10 @@ Form* FindForm(Editor& ed, std::string_view name);
 // isn't a mission, or one whose load failed, leaves no mission path behind.
 bool NamedMissionLoaded(const Editor& ed, const EditorCommandLine& line);
 
+// The tab of --tab: before the main window is up (the splash is showing), the one it comes up
+// on, in place of the stored one; after, the one shown now.
+void ApplyStartTab(Editor& ed, int tab);
+
 // Shows the tab, opens the layout editor on the row, shows the form. Returns what stood in
 // the way, empty when the picture can be taken.
 std::string PrepareScene(Editor& ed, const EditorCommandLine& line);

@@ -5,7 +5,6 @@
 
 #include "app/make_editor.h"
 #include "app/screenshot_scene.h"
-#include "maps/tab_selection.h"
 #include "qt/binding.h"
 #include "qt/editor_window.h"
 #include "qt/form_view.h"
@@ -36,7 +35,7 @@ bool EditorSession::Start(const QString& commandLine, bool skipSplash) {
 }
 
 void EditorSession::ShowTab(int tab) {
-    Guarded([&] { SelectTab(*editor_, tab); });
+    Guarded([&] { ApplyStartTab(*editor_, tab); });
 }
 
 std::string EditorSession::PrepareScene(const EditorCommandLine& line) {

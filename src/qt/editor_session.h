@@ -22,7 +22,8 @@ class EditorSession {
     // The start of the program through the core's start-up; the command line may name a
     // mission to open. False when the program must end now.
     bool Start(const QString& commandLine, bool skipSplash);
-    // Shows tab 0..3 as the View menu does.
+    // Shows tab 0..3 as the View menu does; while the splash is up, the main window will come
+    // up on it.
     void ShowTab(int tab);
     // Sets up the view a screenshot asks for; what stood in the way, empty when ready.
     std::string PrepareScene(const EditorCommandLine& line);
