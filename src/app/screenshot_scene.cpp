@@ -43,7 +43,7 @@ void ApplyStartTab(Editor& ed, int tab) {
 
 std::string PrepareScene(Editor& ed, const EditorCommandLine& line) {
     auto& frm = ed.FrmMission;
-    ApplyStartTab(ed, line.tab);
+    if (line.tab >= 0) SelectTab(ed, line.tab);
     if (line.layoutRow >= 0) {
         if (frm.SSTab1.Tab() != kGroundUnitsTab) SelectTab(ed, kGroundUnitsTab);
         ListBox& layouts = frm.lstGUAdded;

@@ -74,7 +74,9 @@ int main(int argc, char** argv) {
     EnterDataFolder();
     const bool unattended = !screenshot.isEmpty();
 
-    tarvex::qt::QtServices services;
+    tarvex::qt::QtServices services(
+        unattended ? QString("tarvex-unattended-%1").arg(QCoreApplication::applicationPid())
+                   : QString());
     services.dialogs.SetUnattended(unattended);
     tarvex::qt::EditorSession session(tarvex::Services{services.dialogs, services.sound,
                                                        services.settings, services.registry,
