@@ -1,54 +1,17 @@
-#include <algorithm>
-#include <filesystem>
 #include <ostream>
-#include <system_error>
 
 #include "cli/command_setup.h"
 #include "cli/commands.h"
 #include "cli/install_folders.h"
+#include "cli/mission_names.h"
 #include "cli/mission_session.h"
 #include "cli/resave_preview.h"
-#include "common/text.h"
 
 namespace tarvex::cli {
 
-namespace {
-
-namespace fs = std::filesystem;
-
-struct CheckItem {
-    std::string shown;  // as the user named it
-    std::string path;   // absolute
-};
-
-// A folder stands for the .mis files directly in it, in name order.
-std::vector<CheckItem> ExpandFiles(const std::vector<std::string>& names) {
-    std::vector<CheckItem> items;
-    for (const std::string& name : names) {
-        std::error_code error;
-        if (!fs::is_directory(name, error)) {
-            items.push_back({name, AbsolutePath(name)});
-            continue;
-        }
-        std::vector<CheckItem> inFolder;
-        for (fs::directory_iterator it(name, error), end; !error && it != end;
-             it.increment(error)) {
-            const fs::path& file = it->path();
-            if (EndsWithText(file.filename().string(), ".mis") && !it->is_directory(error))
-                inFolder.push_back({file.string(), AbsolutePath(file.string())});
-        }
-        std::sort(inFolder.begin(), inFolder.end(),
-                  [](const CheckItem& a, const CheckItem& b) { return a.shown < b.shown; });
-        items.insert(items.end(), inFolder.begin(), inFolder.end());
-    }
-    return items;
-}
-
-}  // namespace
-
 int RunCheck(const CommonOptions& options, const std::vector<std::string>& files,
              std::ostream& cout, std::ostream& cerr) {
-    const std::vector<CheckItem> items = ExpandFiles(files);
+    const std::vector<NamedMission> items = ExpandMissionNames(files);
     if (items.empty()) {
         cerr << "tarvex-mis: no mission files to check\n";
         return kExitUsage;
@@ -58,7 +21,7 @@ int RunCheck(const CommonOptions& options, const std::vector<std::string>& files
     if (!editor) return kExitNoDatabase;
 
     int result = kExitOk;
-    for (const CheckItem& item : items) {
+    for (const NamedMission& item : items) {
         Outcome outcome = OpenMission(*editor, item.path);
         int failure = kExitLoadFailed;
         if (outcome.ok) {

@@ -1,27 +1,18 @@
 #include "cli/install_folders.h"
 
-#include <cstdlib>
 #include <filesystem>
 #include <system_error>
 
 #include "common/paths.h"
 #include "platform/account_registry.h"
 #include "platform/ini_settings_store.h"
+#include "platform/install_folder.h"
 #include "refdata/reference_database.h"
 #include "shell/settings.h"
-
-#ifndef TARVEX_DEFAULT_INSTALL
-#define TARVEX_DEFAULT_INSTALL "default-install"
-#endif
 
 namespace tarvex::cli {
 
 namespace fs = std::filesystem;
-
-std::string DefaultInstallFolder() {
-    if (const char* home = std::getenv("TARVEX_HOME"); home && *home) return home;
-    return TARVEX_DEFAULT_INSTALL;
-}
 
 std::string AbsolutePath(const std::string& path) {
     if (path.empty()) return path;

@@ -11,9 +11,6 @@ struct InstallFolders {
     std::string mapFolder;  // the map bitmaps, ending in a separator
 };
 
-// The default installation: $TARVEX_HOME when set, else the one the build made.
-std::string DefaultInstallFolder();
-
 // The editor's "Sortak DB", "Path" and "Sortak Map" where its settings file holds them; for
 // what it doesn't, the simulator's folder of the registry (as the editor's first run takes it)
 // and the default installation's.

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "cli/commands.h"
+#include "common/program_version.h"
 
 namespace {
 
@@ -37,7 +38,7 @@ std::string OneLine(std::string text) {
 int main(int argc, char** argv) {
     CLI::App app{"Checks, resaves, exports and describes Tarvex mission files.", "tarvex-mis"};
     app.require_subcommand(1);
-    app.set_version_flag("--version", "tarvex-mis 3.0.1");
+    app.set_version_flag("--version", "tarvex-mis " + tarvex::ProgramVersionText());
 
     CommonOptions options;
     std::string in, out;

@@ -8,6 +8,7 @@
 #include "cli/command_setup.h"
 #include "cli/commands.h"
 #include "cli/install_folders.h"
+#include "cli/mission_names.h"
 #include "scenario/scenario_run.h"
 #include "scenario/scenario_script.h"
 
@@ -59,22 +60,19 @@ int RunPlay(const CommonOptions& options, const PlayOptions& play, std::ostream&
         return kExitUsage;
     }
     const std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-    for (const std::string& mission : play.missions) {
-        std::error_code error;
-        if (fs::is_directory(mission, error)) {
-            cerr << "tarvex-mis: " << mission << " is a folder: name its missions, as in "
-                 << (fs::path(mission) / "*.mis").string() << "\n";
-            return kExitUsage;
-        }
-    }
     if (play.missions.empty()) return PlayOnce(options, play, text, "", cout, cerr);
     // Every mission gets its run, whatever became of the others. The editor moves into the
     // simulator's folder; each run starts from where the user stands, for the relative paths.
     std::error_code error;
     const fs::path start = fs::current_path(error);
     int result = kExitOk;
-    for (const std::string& mission : play.missions) {
-        const int code = PlayOnce(options, play, text, mission, cout, cerr);
+    const std::vector<NamedMission> missions = ExpandMissionNames(play.missions);
+    if (missions.empty()) {
+        cerr << "tarvex-mis: no mission files to play\n";
+        return kExitUsage;
+    }
+    for (const NamedMission& mission : missions) {
+        const int code = PlayOnce(options, play, text, mission.shown, cout, cerr);
         if (code != kExitOk && result != kExitNoDatabase) result = code;
         fs::current_path(start, error);
     }

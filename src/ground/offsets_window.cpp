@@ -19,7 +19,7 @@
 #include "shell/forms/frm_gu_offsets.h"
 #include "shell/forms/frm_mission.h"
 #include "shell/forms/mdi_mission_ed.h"
-#include "shell/settings.h"
+#include "shell/setting_values.h"
 #include "shell/status_strip.h"
 
 namespace tarvex {

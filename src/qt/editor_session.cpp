@@ -4,9 +4,10 @@
 #include <QPixmap>
 
 #include "app/make_editor.h"
-#include "maps/tab_selection.h"
+#include "app/screenshot_scene.h"
 #include "qt/binding.h"
 #include "qt/editor_window.h"
+#include "qt/form_view.h"
 #include "shell/error_box.h"
 #include "shell/startup.h"
 
@@ -34,12 +35,24 @@ bool EditorSession::Start(const QString& commandLine, bool skipSplash) {
 }
 
 void EditorSession::ShowTab(int tab) {
-    Guarded([&] { SelectTab(*editor_, tab); });
+    Guarded([&] { ApplyStartTab(*editor_, tab); });
 }
 
-bool EditorSession::SaveScreenshot(const QString& file) {
+std::string EditorSession::PrepareScene(const EditorCommandLine& line) {
+    std::string problem;
+    Guarded([&] { problem = tarvex::PrepareScene(*editor_, line); });
+    return problem;
+}
+
+bool EditorSession::SaveScreenshot(const QString& file, const QString& formName) {
     QApplication::processEvents();
-    return window_->grab().save(file, "PNG");
+    QWidget* shot = window_.get();
+    if (!formName.isEmpty()) {
+        // The two forms inside the main window are pictured with it.
+        const Form* form = FindForm(*editor_, formName.toStdString());
+        if (FormView* view = form ? window_->FormWindow(form->Name()) : nullptr) shot = view;
+    }
+    return shot->grab().save(file, "PNG");
 }
 
 }  // namespace tarvex::qt

@@ -4,6 +4,7 @@
 #include <QStringList>
 #include <memory>
 
+#include "app/command_line.h"
 #include "shell/editor.h"
 
 namespace tarvex::qt {
@@ -21,10 +22,13 @@ class EditorSession {
     // The start of the program through the core's start-up; the command line may name a
     // mission to open. False when the program must end now.
     bool Start(const QString& commandLine, bool skipSplash);
-    // Shows tab 0..3 as the View menu does.
+    // Shows tab 0..3 as the View menu does; while the splash is up, the main window will come
+    // up on it.
     void ShowTab(int tab);
-    // Saves a picture of the main window.
-    bool SaveScreenshot(const QString& file);
+    // Sets up the view a screenshot asks for; what stood in the way, empty when ready.
+    std::string PrepareScene(const EditorCommandLine& line);
+    // Saves a picture of the main window, or of the form of that name when one is given.
+    bool SaveScreenshot(const QString& file, const QString& formName = QString());
 
   private:
     std::unique_ptr<Editor> editor_;

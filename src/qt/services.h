@@ -84,8 +84,12 @@ class QtClock : public Clock {
     void DoEvents() override;
 };
 
-// Every service of one running editor.
+// Every service of one running editor. A run that shows no window (a screenshot) passes a
+// channel name of its own, so that it neither finds the user's editor as an earlier copy nor
+// is found by it.
 struct QtServices {
+    QtServices() = default;
+    explicit QtServices(QString instanceName) : instance(std::move(instanceName)) {}
     QtDialogs dialogs;
     QtSoundEngine sound;
     IniSettingsStore settings;

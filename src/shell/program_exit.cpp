@@ -18,7 +18,7 @@ bool ConfirmExit(Editor& ed, UnloadMode mode) {
 bool CloseMainWindow(Editor& ed, UnloadMode mode) {
     if (ed.shell.Ended) return true;
     if (ConfirmExit(ed, mode)) return false;
-    // TODO: clear the aircraft form's changed-records flag once that form is in.
+    ed.aircraftRecords.AircraftChanged = false;
     ed.frmNewRecord.SetVisible(false);
     ed.frmGUOffsets.SetVisible(false);
     // The window's place as the user left it is where the next run opens it.

@@ -6,7 +6,7 @@
 #include "document/mission_reset.h"
 #include "shell/editor.h"
 #include "shell/forms/mdi_mission_ed.h"
-#include "shell/settings.h"
+#include "shell/setting_values.h"
 #include "shell/shell_state.h"
 
 namespace tarvex {

@@ -99,18 +99,6 @@ void ReadFirstRun(Editor& ed) {
 
 }  // namespace
 
-bool SettingIsTrue(std::string_view text) {
-    return InStr(text, "True") > 0;
-}
-
-std::string GetSetting(Editor& ed, const std::string& key) {
-    return ed.svc.settings.Get(kSettingsApp, kSettingsSection, key).value_or(std::string());
-}
-
-void PutSetting(Editor& ed, const std::string& key, const std::string& value) {
-    ed.svc.settings.Save(kSettingsApp, kSettingsSection, key, value);
-}
-
 std::string DefaultDatabasePath() {
     return JoinPath(JoinPath(JoinPath(CurrentFolder(), "Sortak"), "Sortak Data"),
                     kDatabaseFileName);

@@ -1,21 +1,12 @@
 #pragma once
 // The remembered folders and options: read once at start, written back at exit.
 #include <string>
-#include <string_view>
+
+#include "shell/setting_values.h"
 
 namespace tarvex {
 
 class Editor;
-
-inline constexpr const char* kSettingsApp = "Sortak";
-inline constexpr const char* kSettingsSection = "Sortak Options";
-
-// True when the text holds "True" anywhere, in any case: "xTRUEx" is true, "no" false.
-bool SettingIsTrue(std::string_view text);
-
-// The text stored under the key, empty when there is none.
-std::string GetSetting(Editor& ed, const std::string& key);
-void PutSetting(Editor& ed, const std::string& key, const std::string& value);
 
 // Fills the folders, the options, DefName and OldDecimal. Without "Path" this is the first
 // run: the folders come from their defaults and the registry, the options from the first-run

@@ -72,6 +72,12 @@ TEST_F(PlayTest, AnswersWithTheLineThatDidNotHold) {
          1,
          "good.mis: OK\n",
          "held.scn:1: " + broken + ": a message box came with no answer queued"},
+        {"a folder stands for its missions",
+         "open $MISSION\nexpect cmbSelectMap.Text != \"\"\n",
+         {(sim / "missions").string()},
+         1,
+         "good.mis: OK\n",
+         "broken.mis: a message box came with no answer queued"},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.what);

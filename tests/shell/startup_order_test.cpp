@@ -253,9 +253,11 @@ TEST(StartupOrderTest, CloseBoxAsksAndFileExitDoesNot) {
     EXPECT_FALSE(ed.shell.Ended);
     EXPECT_TRUE(ed.db.theDB.IsOpen());
 
+    ed.aircraftRecords.AircraftChanged = true;
     ed.MDIMissionED.mnuExit.UserClick();
     EXPECT_EQ(in.t.dialogs.messages.size(), 1u);
     EXPECT_TRUE(ed.shell.Ended);
+    EXPECT_FALSE(ed.aircraftRecords.AircraftChanged);
     EXPECT_FALSE(ed.db.theDB.IsOpen());
     EXPECT_EQ(in.Stored("Last Tab"), "3");
 }
