@@ -205,6 +205,20 @@ TEST_F(SkinTest, CtrlWheelZoomsTheMapAboutThePointer) {
     EXPECT_DOUBLE_EQ(map->Zoom(), NextZoom(1, 2));
     turn(Qt::ControlModifier, -2);
     EXPECT_DOUBLE_EQ(map->Zoom(), 1.0);
+    // The keys zoom the map shown, and Ctrl+0 goes back to the normal size.
+    session->window().activateWindow();
+    QApplication::setActiveWindow(&session->window());
+    const struct {
+        Qt::Key key;
+        double zoom;
+    } keys[] = {{Qt::Key_Plus, NextZoom(1, 1)},
+                {Qt::Key_Equal, NextZoom(1, 2)},
+                {Qt::Key_Minus, NextZoom(1, 1)},
+                {Qt::Key_0, 1.0}};
+    for (const auto& k : keys) {
+        QTest::keyClick(Widget("txtPoint"), k.key, Qt::ControlModifier);
+        EXPECT_DOUBLE_EQ(map->Zoom(), k.zoom) << k.key;
+    }
     EXPECT_EQ(session->ed().FrmMission.mapWayPoints.Operations().size(), drawn);
 }
 
@@ -227,6 +241,34 @@ TEST(SkinScale, FormsFitInStepsAndZoomComesBackToTheNormalSize) {
     EXPECT_EQ(NextZoom(zoom, -3), 1.0);
     EXPECT_EQ(NextZoom(1, 100), 8.0);
     EXPECT_EQ(NextZoom(1, -100), 0.5);
+}
+
+TEST_F(SkinTest, DisabledControlsLookDisabledAndSeparatorsAreLines) {
+    dialogs.QueueOpen(TARVEX_SOURCE_DIR "/tests/data/missions/channel_sweep.mis");
+    Action("mnuOpen")->trigger();
+    auto& frm = session->ed().FrmMission;
+    session->ShowTab(1);
+    QApplication::processEvents();
+    Control* const controls[] = {&frm.lstGroupName, &frm.cmbStartAtRwy, &frm.cmbSkill,
+                                 &frm.chkPlayer, &frm.btnGroupName};
+    for (Control* control : controls) {
+        SCOPED_TRACE(control->Name());
+        QWidget* widget = session->window().MissionView().WidgetOf(*control);
+        ASSERT_NE(widget, nullptr);
+        control->SetEnabled(true);
+        const QImage enabled = widget->grab().toImage();
+        control->SetEnabled(false);
+        EXPECT_FALSE(widget->isEnabled());
+        EXPECT_NE(widget->grab().toImage(), enabled);
+        control->SetEnabled(true);
+    }
+    // A separator is a line, never a "-".
+    int separators = 0;
+    for (QAction* action : session->window().menuBar()->findChildren<QAction*>()) {
+        EXPECT_NE(action->text(), "-") << action->objectName().toStdString();
+        separators += action->isSeparator();
+    }
+    EXPECT_GT(separators, 3);
 }
 
 TEST_F(SkinTest, APressOnTheGroundUnitsHeaderDrawsItsMap) {
