@@ -71,7 +71,10 @@ bool MapZoom::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::Wheel) return false;
     auto* wheel = static_cast<QWheelEvent*>(event);
     if (!(wheel->modifiers() & Qt::ControlModifier)) return false;
-    const int steps = wheel->angleDelta().y() / 120;
+    // Fine wheels (touch pads) add up to whole notches.
+    wheelRest_ += wheel->angleDelta().y();
+    const int steps = wheelRest_ / 120;
+    wheelRest_ -= steps * 120;
     if (steps == 0) return true;
     for (PictureView* map : maps_)
         if (ViewOf(map)->viewport() == watched)

@@ -28,6 +28,7 @@ class MapZoom : public QObject {
   private:
     void Step(int steps);
     std::vector<PictureView*> maps_;
+    int wheelRest_ = 0;
 };
 
 }  // namespace tarvex::qt

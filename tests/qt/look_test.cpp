@@ -141,6 +141,19 @@ TEST_F(SkinTest, NoControlCoversAnotherAtAnyScale) {
         for (const std::string& fault : faults)
             ADD_FAILURE() << fault;
     }
+    // The windows of their own keep the normal scale.
+    for (const char* name : {"frmAircraft", "frmGrndNames", "frmtblMissions", "frmGUOffsets",
+                             "frmNewRecord", "frmAbout", "frmSplash"}) {
+        FormView* view = session->window().FormWindow(name);
+        ASSERT_NE(view, nullptr) << name;
+        view->window()->show();
+        QApplication::processEvents();
+        std::vector<std::string> faults;
+        CollectFaults(view, QRectF(0, 0, view->Model().Width(), view->Model().Height()), faults);
+        for (const std::string& fault : faults)
+            ADD_FAILURE() << fault;
+        view->window()->hide();
+    }
 }
 
 TEST_F(SkinTest, TheMissionWindowScalesWithTheMainWindowAndKeepsMapUnits) {
