@@ -141,19 +141,6 @@ TEST_F(SkinTest, NoControlCoversAnotherAtAnyScale) {
         for (const std::string& fault : faults)
             ADD_FAILURE() << fault;
     }
-    // The windows of their own keep the normal scale.
-    for (const char* name : {"frmAircraft", "frmGrndNames", "frmtblMissions", "frmGUOffsets",
-                             "frmNewRecord", "frmAbout", "frmSplash"}) {
-        FormView* view = session->window().FormWindow(name);
-        ASSERT_NE(view, nullptr) << name;
-        view->window()->show();
-        QApplication::processEvents();
-        std::vector<std::string> faults;
-        CollectFaults(view, QRectF(0, 0, view->Model().Width(), view->Model().Height()), faults);
-        for (const std::string& fault : faults)
-            ADD_FAILURE() << fault;
-        view->window()->hide();
-    }
 }
 
 TEST_F(SkinTest, TheMissionWindowScalesWithTheMainWindowAndKeepsMapUnits) {
@@ -233,55 +220,6 @@ TEST_F(SkinTest, CtrlWheelZoomsTheMapAboutThePointer) {
         EXPECT_DOUBLE_EQ(map->Zoom(), k.zoom) << k.key;
     }
     EXPECT_EQ(session->ed().FrmMission.mapWayPoints.Operations().size(), drawn);
-}
-
-TEST(SkinScale, FormsFitInStepsAndZoomComesBackToTheNormalSize) {
-    const struct {
-        double roomWidth, roomHeight, want;
-    } fits[] = {
-        {9400, 6400, 1.0},                            // the normal window
-        {18800, 20000, 2.0},                          // the width decides
-        {30000, 12700, 2.0},                          // the height decides
-        {9396 * 1.99, 1e6, 1.9375}, {100, 100, 0.5},  // never below half
-    };
-    for (const auto& fit : fits)
-        EXPECT_DOUBLE_EQ(FitScale(fit.roomWidth, fit.roomHeight, 9396, 6312), fit.want)
-            << fit.roomWidth << " x " << fit.roomHeight;
-    double zoom = 1;
-    for (int k = 0; k < 3; ++k)
-        zoom = NextZoom(zoom, 1);
-    EXPECT_DOUBLE_EQ(zoom, 1.953125);
-    EXPECT_EQ(NextZoom(zoom, -3), 1.0);
-    EXPECT_EQ(NextZoom(1, 100), 8.0);
-    EXPECT_EQ(NextZoom(1, -100), 0.5);
-}
-
-TEST_F(SkinTest, DisabledControlsLookDisabledAndSeparatorsAreLines) {
-    dialogs.QueueOpen(TARVEX_SOURCE_DIR "/tests/data/missions/channel_sweep.mis");
-    Action("mnuOpen")->trigger();
-    auto& frm = session->ed().FrmMission;
-    session->ShowTab(1);
-    QApplication::processEvents();
-    Control* const controls[] = {&frm.lstGroupName, &frm.cmbStartAtRwy, &frm.cmbSkill,
-                                 &frm.chkPlayer, &frm.btnGroupName};
-    for (Control* control : controls) {
-        SCOPED_TRACE(control->Name());
-        QWidget* widget = session->window().MissionView().WidgetOf(*control);
-        ASSERT_NE(widget, nullptr);
-        control->SetEnabled(true);
-        const QImage enabled = widget->grab().toImage();
-        control->SetEnabled(false);
-        EXPECT_FALSE(widget->isEnabled());
-        EXPECT_NE(widget->grab().toImage(), enabled);
-        control->SetEnabled(true);
-    }
-    // A separator is a line, never a "-".
-    int separators = 0;
-    for (QAction* action : session->window().menuBar()->findChildren<QAction*>()) {
-        EXPECT_NE(action->text(), "-") << action->objectName().toStdString();
-        separators += action->isSeparator();
-    }
-    EXPECT_GT(separators, 3);
 }
 
 TEST_F(SkinTest, APressOnTheGroundUnitsHeaderDrawsItsMap) {
