@@ -57,7 +57,9 @@ TEST(ProgramTest, OptionsAnswerWithTheirExitStatus) {
         EXPECT_EQ(editor.exitCode(), run.status) << shown << "\n" << err;
         EXPECT_NE(out.find(run.out), std::string::npos) << shown << "\n" << out;
         EXPECT_NE(err.find(run.err), std::string::npos) << shown << "\n" << err;
-        if (run.status == 64) EXPECT_EQ(err.find('\n'), err.size() - 1) << shown << err;
+        if (run.status == 64) {
+            EXPECT_EQ(err.find('\n'), err.size() - 1) << shown << err;
+        }
         EXPECT_FALSE(QFileInfo::exists(shot)) << shown;
     }
     std::error_code ignored;
