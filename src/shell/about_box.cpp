@@ -31,6 +31,13 @@ void Form_Load(Editor& ed) {
         ed.frmAbout.picAbout.LoadPicture(JoinPath(ed.options.MapPath, "London1.bmp"));
     } catch (const std::exception&) {
     }
+    // The closing button is a bare picture: give it a face, so that it reads as a button.
+    PictureSurface& ok = ed.frmAbout.picOK;
+    ok.Cls();
+    ok.Box(0, 0, ok.ScaleWidth() - 15, ok.ScaleHeight() - 15);
+    ok.SetCurrent((ok.ScaleWidth() - ok.TextWidth("OK")) / 2,
+                  (ok.ScaleHeight() - ok.TextHeight("OK")) / 2);
+    ok.Print("OK");
     // The engine has one volume for all sounds, so this one plays at that of sndCheckbox.
     PlayFromSoundFolder(ed, "amb9.wav");
 }
